@@ -1,0 +1,27 @@
+// The names and icons that reminders are grouped by.
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+struct CategoryEntry {
+    QString Name; // empty: the list ends here
+    QString Icon;
+};
+
+extern std::vector<CategoryEntry> Global_Categories;
+
+// 0..10, all empty.
+void Init_Categories();
+// "rcategories.txt"; a missing or empty file gives the default table. Failures are swallowed.
+void Load_Categories(const QString& fileName);
+void Save_Categories(const QString& fileName);
+// Index of the name without regard to case, or -1. The empty name finds the first free entry.
+int Find_Category(const QString& name);
+// Adds what reminders use and the table lacks.
+void Sync_CategoriesFromReminders();
+// Removes a known category from the table and from all reminders.
+void Delete_Category(const QString& name);
+// Trims, and reduces every run of blanks to one.
+QString Clean_CategoryText(const QString& text);

@@ -1,0 +1,120 @@
+// One reminder: what to show, when, and what it has already done.
+#pragma once
+
+#include "core/time_routines.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+class RecordReader;
+class RecordWriter;
+
+// When in the day a reminder fires. Minutes since midnight; StartMinute -1 = at start-up.
+struct HourSetup {
+    std::int16_t Enabled = 0; // -1 = on
+    std::int16_t StartMinute = 0;
+    std::int16_t EndMinute = 0;     // used with EveryXMinutes > 0 only
+    std::int16_t EveryXMinutes = 0; // 0 = once
+    bool operator==(const HourSetup&) const = default;
+};
+
+enum class ReminderType : std::uint8_t { InsideToolbar = 0, NextToToolbar = 1, Centered = 2 };
+enum class DateType : std::uint8_t {
+    EveryDay = 0,
+    Weekdays = 1,
+    EveryXDays = 2,
+    ExactDate = 3,
+    DayOfMonth = 4
+};
+enum class FunctionType : std::uint8_t { None = 0, OpenPage = 1, OpenFile = 2 };
+
+// A button on the reminder window.
+struct FunctionEntry {
+    bool Enabled = false;
+    FunctionType Function_Type = FunctionType::None; // any byte may come out of a file
+    std::uint8_t Window_Mode = 0;                    // 0 normal, 1 minimized, 2 maximized
+    QString Function_Path;
+    QString Title; // the caption
+    bool operator==(const FunctionEntry&) const = default;
+};
+
+class ReminderClass {
+public:
+    static constexpr int FunctionCount = 4;
+    static constexpr std::int32_t NeverExecuted = -1;
+
+    // The fields, read and written directly. A byte of an enumeration may hold any value after a
+    // load: who selects by it must check it.
+    bool rs_Enabled = false;
+    bool rs_Minimize_Apps = false; // before a centered window
+    bool rs_REveryDay = false;
+    bool rs_PlaySound = false;
+    ReminderType rs_Reminder_Type = ReminderType::InsideToolbar;
+    DateType rs_DateType_Used = DateType::EveryDay;
+    std::uint8_t rs_SRDay = 0;
+    std::uint8_t rs_SRMonth = 0;
+    std::int16_t rs_SRYear = 0; // 0 = every year
+    std::int16_t rs_ReWeeks = 0; // 0 = every week
+    std::int16_t rs_ReMonths = 0; // read by no rule
+    std::int16_t rs_ReDays = 0;
+    Day rs_DisabledForToday = 0; // 0 = none
+    Day rs_ActivationDay = 0;    // the day itself does not fire; 0 = none
+    Day rs_FirstRunDate = 0;     // anchors the cycle of days; 0 = not yet set
+    Day rs_SRLongday = 0;
+    std::int32_t rs_wDaysArray_LMonth = 0;
+    std::int32_t rs_wDaysArray_LWeek = 0; // week of the last match; 0 = none yet
+    std::int32_t rs_REDayOfMonth = 0;
+    // Holds two units: the engine stores a Serial here, the list of missed reminders a Day.
+    std::int32_t rs_LastExecutedDate = NeverExecuted;
+    std::array<std::uint8_t, 8> rs_wDays{}; // 0 = Monday .. 6 = Sunday, 7 unused
+    std::int32_t rs_ID = 0;
+    std::int32_t rs_ID2 = 0; // millisecond clock at creation; with rs_ID the identity everywhere
+    Day rs_DayCreated = 0;
+    std::int32_t rs_SFReserved3 = 0;
+    QString rs_Title;
+    QString rs_Text;      // lines end with CR LF
+    QString rs_SoundPath; // empty = beep
+    QString rs_Category;  // empty = none
+    QString rs_Icon;
+
+    // The schedule. Each may change marks and anchors of the reminder; the moment is read once by
+    // the caller. The forms without an argument read the clock.
+    bool Engine_CheckRunReminder(const Moment& now);
+    bool Engine_CheckDate(const Moment& now);
+    bool Engine_CheckTime(const Moment& now);
+    bool Check_ReminderWasMissedToday(const Moment& now);
+    Day GetNext_RunDate(const Moment& now);     // today counts; -1 = none
+    Day GetPrevious_RunDate(const Moment& now); // before today; -1 = none
+
+    // A new reminder as the editors start it: every day at 20:00, beside the toolbar, with a beep.
+    void SetDefaultValues();
+
+    // index 0..3; throws std::out_of_range otherwise.
+    void SetFuncion(int index, const FunctionEntry& entry);
+    const FunctionEntry& GetFuncion(int index) const;
+
+    // Highest used index of the hour list; -1 = empty.
+    std::int32_t HourSetupList_Size() const;
+    void AddNewHourSetup(const HourSetup& setup);
+    // index 0..HourSetupList_Size; throws std::out_of_range otherwise.
+    const HourSetup& GetHourSetup(std::int32_t index) const;
+    void SetHourSetup(std::int32_t index, const HourSetup& setup);
+    // An index above the list's size does nothing.
+    void DeleteHourSetup(std::int32_t index);
+    void ClearAllHourSetup();
+
+    void Set_Rs_Rdays(const std::array<std::uint8_t, 8>& days) { rs_wDays = days; }
+    std::array<std::uint8_t, 8> Get_Rs_Rdays() const { return rs_wDays; }
+
+    // The file form, version "003". Reading takes "001" to "003": 0, -1 for a wrong header or a
+    // short body, -2 for an unknown version.
+    void SaveData_To_File(RecordWriter& stream) const;
+    int LoadData_From_File(RecordReader& stream);
+
+private:
+    // To be laid out by the engine's needs: hour list with its run-time marks, functions,
+    // LastAtMinute (-100), LastCheckDate.
+};
