@@ -16,6 +16,9 @@ public:
     virtual void Set_Topmost(WindowId window, bool topmost) = 0;
     // No entry in the task bar or pager. The state is lost on hiding: to be set before every map.
     virtual void Leave_TaskBar(WindowId window) = 0;
+    // The window stands exactly where the program puts it, over the areas of panels too. To be set
+    // before every map, like the one above.
+    virtual void Keep_Place(WindowId window) = 0;
     // Raises the window and gives it the keyboard focus, as a second launch asks.
     virtual void Activate(WindowId window) = 0;
     // Opacity 0..255 of the whole window; Clear_Alpha takes the layered drawing off again.

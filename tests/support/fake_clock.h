@@ -25,7 +25,7 @@ public:
     platform::LocalTime Now() override {
         const QDate date = now.date();
         const QTime time = now.time();
-        return {date.year(), date.month(),  date.day(),   time.hour(),
+        return {date.year(),   date.month(),  date.day(), time.hour(),
                 time.minute(), time.second(), time.msec()};
     }
     std::int32_t Milliseconds() override { return static_cast<std::int32_t>(ticks); }

@@ -1,0 +1,136 @@
+// The boxes as the toolkit draws them: the same on every system.
+#include "platform/dialogs.h"
+
+#include "platform/providers.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+namespace {
+
+QMessageBox::Icon Icon_Of(BoxStyle style) {
+    switch (style) {
+    case BoxStyle::Critical:
+        return QMessageBox::Critical;
+    case BoxStyle::Exclamation:
+        return QMessageBox::Warning;
+    case BoxStyle::Information:
+        return QMessageBox::Information;
+    }
+    return QMessageBox::NoIcon;
+}
+
+class ToolkitDialogs : public Dialogs {
+public:
+    void Message(const QString& text, BoxStyle style) override {
+        if (!isDismissed) {
+            Show_Box(Icon_Of(style), text, QMessageBox::Ok, QMessageBox::Ok);
+        }
+    }
+
+    Answer Question(const QString& text, bool withCancel) override {
+        const auto closing = withCancel ? QMessageBox::Cancel : QMessageBox::No;
+        QMessageBox::StandardButton pressed = closing;
+        if (!isDismissed) {
+            pressed = Show_Box(QMessageBox::Question, text,
+                               QMessageBox::Yes | QMessageBox::No | closing, closing);
+        }
+        if (pressed == QMessageBox::Yes) {
+            return Answer::Yes;
+        }
+        return pressed == QMessageBox::No ? Answer::No : Answer::Cancel;
+    }
+
+    std::optional<QString> Input(const QString& prompt, const QString& title,
+                                 const QString& text) override {
+        if (isDismissed) {
+            return std::nullopt;
+        }
+        QInputDialog box;
+        box.setInputMode(QInputDialog::TextInput);
+        box.setWindowTitle(title);
+        box.setLabelText(prompt);
+        box.setTextValue(text);
+        if (auto* line = box.findChild<QLineEdit*>()) {
+            line->setAccessibleName(prompt);
+        }
+        return Run(box) ? std::optional(box.textValue()) : std::nullopt;
+    }
+
+    std::optional<QString> Open_File(const QString& title, const QString& folder,
+                                     const QString& filter) override {
+        if (isDismissed) {
+            return std::nullopt;
+        }
+        QFileDialog box(nullptr, title, folder, filter);
+        box.setAcceptMode(QFileDialog::AcceptOpen);
+        box.setFileMode(QFileDialog::ExistingFile);
+        if (!Run(box) || box.selectedFiles().isEmpty()) {
+            return std::nullopt;
+        }
+        return box.selectedFiles().constFirst();
+    }
+
+    bool Holds_Timers() override { return holding > 0; }
+
+    void Dismiss_All() override {
+        isDismissed = true;
+        // The innermost loop first. A box that goes may take others with it, hence the copy's test.
+        const std::vector<QDialog*> closing = open;
+        for (auto box = closing.rbegin(); box != closing.rend(); ++box) {
+            if (std::find(open.begin(), open.end(), *box) != open.end()) {
+                (*box)->done(QDialog::Rejected);
+            }
+        }
+    }
+
+private:
+    QMessageBox::StandardButton Show_Box(QMessageBox::Icon icon, const QString& text,
+                                         QMessageBox::StandardButtons buttons,
+                                         QMessageBox::StandardButton closing) {
+        QMessageBox box(icon, u"Tockly"_s, text, buttons);
+        box.setTextFormat(Qt::PlainText);
+        box.setEscapeButton(closing);
+        box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes
+                                                                : QMessageBox::Ok);
+        box.setAccessibleDescription(text);
+        ++holding;
+        Run(box);
+        --holding;
+        const auto pressed = box.standardButton(box.clickedButton());
+        return isDismissed || pressed == QMessageBox::NoButton ? closing : pressed;
+    }
+
+    // True when the user agreed.
+    bool Run(QDialog& box) {
+        box.setWindowModality(Qt::ApplicationModal);
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+        box.setAccessibleName(box.windowTitle());
+        open.push_back(&box);
+        const bool isAccepted = box.exec() == QDialog::Accepted;
+        open.erase(std::find(open.begin(), open.end(), &box));
+        return isAccepted && !isDismissed;
+    }
+
+    std::vector<QDialog*> open; // outermost first
+    int holding = 0;
+    bool isDismissed = false;
+};
+
+} // namespace
+
+std::unique_ptr<Dialogs> Make_Dialogs() {
+    return std::make_unique<ToolkitDialogs>();
+}
+
+} // namespace platform

@@ -1,0 +1,73 @@
+#include "platform/files.h"
+
+#include "platform/linux/atomic_file.h"
+#include "platform/linux/descriptor.h"
+#include "platform/providers.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace platform {
+
+namespace {
+
+std::string Native(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+std::optional<std::string> Read_All(int file) {
+    std::string content;
+    std::array<char, 65536> block{};
+    for (;;) {
+        const ssize_t count = read(file, block.data(), block.size());
+        if (count == 0) {
+            return content;
+        }
+        if (count < 0 && errno != EINTR) {
+            return std::nullopt;
+        }
+        content.append(block.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+    }
+}
+
+class LinuxFiles : public Files {
+public:
+    bool Exists(const QString& path) override { return QFileInfo::exists(path); }
+
+    std::optional<std::string> Read(const QString& path) override {
+        // Without O_NONBLOCK a pipe of that name would hold the program for ever.
+        const Descriptor file(open(Native(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+        struct stat kind {};
+        if (!file.Is_Open() || fstat(file.Number(), &kind) != 0 || !S_ISREG(kind.st_mode)) {
+            return std::nullopt;
+        }
+        return Read_All(file.Number());
+    }
+
+    bool Replace(const QString& path, const std::string& content) override {
+        return !path.isEmpty() && Replace_File(Native(path), content);
+    }
+
+    bool Copy(const QString& from, const QString& to, bool overwrite) override {
+        const std::optional<std::string> content = Read(from);
+        return content && (overwrite || !Exists(to)) && Replace(to, *content);
+    }
+
+    bool Make_Folder(const QString& path) override {
+        return !path.isEmpty() && QDir().mkpath(path);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Files> Make_Files() {
+    return std::make_unique<LinuxFiles>();
+}
+
+} // namespace platform

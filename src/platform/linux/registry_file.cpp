@@ -1,0 +1,80 @@
+#include "platform/linux/registry_file.h"
+
+#include "platform/files.h"
+#include "platform/providers.h"
+#include "platform/reg_text.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace platform {
+
+RegistryFile::RegistryFile(RegistryRoot keptRoot, QString keptPath)
+    : root(keptRoot), path(std::move(keptPath)) {}
+
+RegistryFile::Stamp RegistryFile::Read_Stamp() const {
+    struct stat found {};
+    if (stat(QFile::encodeName(path).constData(), &found) != 0) {
+        return {};
+    }
+    return {found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
+}
+
+const RegistryTree& RegistryFile::Tree() {
+    const Stamp now = Read_Stamp();
+    if (isLoaded && now == stamp) {
+        return tree;
+    }
+    isLoaded = true;
+    stamp = now;
+    condition = Condition::Good;
+    tree = {};
+    if (now.size < 0) {
+        return tree;
+    }
+    const auto text = Make_Files()->Read(path);
+    if (!text) {
+        condition = Condition::Unreadable;
+        return tree;
+    }
+    RegText content = Read_RegText(root, *text);
+    tree = std::move(content.tree);
+    condition = content.isDamaged ? Condition::Damaged : Condition::Good;
+    return tree;
+}
+
+bool RegistryFile::Keep_Damaged() const {
+    QString kept = path + u".damaged"_s;
+    for (int number = 2; QFileInfo::exists(kept); ++number) {
+        kept = path + u".damaged-"_s + QString::number(number);
+    }
+    return Make_Files()->Copy(path, kept, false);
+}
+
+bool RegistryFile::Change(const std::function<bool(RegistryTree&)>& step) {
+    RegistryTree changed = Tree();
+    if (!step(changed)) {
+        return false;
+    }
+    // What could not be read must not be replaced by what little is known.
+    if (condition == Condition::Unreadable ||
+        (condition == Condition::Damaged && !Keep_Damaged())) {
+        return false;
+    }
+    const auto files = Make_Files();
+    files->Make_Folder(QFileInfo(path).path());
+    if (!files->Replace(path, Write_RegText(root, changed))) {
+        return false;
+    }
+    tree = std::move(changed);
+    condition = Condition::Good;
+    stamp = Read_Stamp();
+    return true;
+}
+
+} // namespace platform

@@ -1,0 +1,43 @@
+// One root of the registry, kept in a text file of the registry editor's form.
+#pragma once
+
+#include "platform/registry_tree.h"
+
+#include <cstdint>
+#include <functional>
+
+namespace platform {
+
+class RegistryFile {
+public:
+    RegistryFile(RegistryRoot keptRoot, QString keptPath);
+
+    // As the file stands now: read at first use, and again when somebody else has changed it.
+    const RegistryTree& Tree();
+
+    // Carries out a step on a copy and stores that. False, with nothing changed, when the step
+    // says so or the file cannot be written.
+    bool Change(const std::function<bool(RegistryTree&)>& step);
+
+private:
+    struct Stamp {
+        std::uint64_t inode = 0;
+        std::int64_t size = -1; // -1: there is no file
+        std::int64_t seconds = 0;
+        std::int64_t nanoseconds = 0;
+        bool operator==(const Stamp&) const = default;
+    };
+    enum class Condition { Good, Damaged, Unreadable };
+
+    Stamp Read_Stamp() const;
+    bool Keep_Damaged() const;
+
+    RegistryRoot root;
+    QString path;
+    RegistryTree tree;
+    Stamp stamp;
+    bool isLoaded = false;
+    Condition condition = Condition::Good;
+};
+
+} // namespace platform

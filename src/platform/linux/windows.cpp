@@ -1,0 +1,109 @@
+#include "platform/linux/x11.h"
+#include "platform/providers.h"
+#include "platform/window.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace platform {
+
+namespace {
+
+enum StateAction : std::uint32_t { RemoveState = 0, AddState = 1 };
+constexpr std::uint32_t FromApplication = 1;
+constexpr std::uint32_t FromUser = 2;
+
+xcb_window_t Native(WindowId window) {
+    return static_cast<xcb_window_t>(window);
+}
+
+bool Is_Mapped(xcb_connection_t* server, xcb_window_t window) {
+    const auto asked = xcb_get_window_attributes(server, window);
+    xcb_generic_error_t* fault = nullptr;
+    auto* reply = xcb_get_window_attributes_reply(server, asked, &fault);
+    const bool isMapped = reply != nullptr && reply->map_state != XCB_MAP_STATE_UNMAPPED;
+    std::free(reply);
+    std::free(fault);
+    return isMapped;
+}
+
+// The window manager reads the property when it maps the window and listens to the message from
+// then on. Between the two nobody knows which: the message goes out in any case.
+void Set_State(WindowId window, const char* name, StateAction action) {
+    xcb_connection_t* server = x11::Connection();
+    if (server == nullptr || window == 0) {
+        return;
+    }
+    const xcb_atom_t state = x11::Atom(name);
+    if (!Is_Mapped(server, Native(window))) {
+        std::vector<std::uint32_t> states = x11::Items(Native(window), "_NET_WM_STATE");
+        states.erase(std::remove(states.begin(), states.end(), state), states.end());
+        if (action == AddState) {
+            states.push_back(state);
+        }
+        x11::Set_Items(Native(window), "_NET_WM_STATE", XCB_ATOM_ATOM, states);
+    }
+    x11::Tell_Manager(Native(window), "_NET_WM_STATE", {action, state, 0, FromApplication, 0});
+}
+
+class LinuxWindows : public Windows {
+public:
+    void Set_Topmost(WindowId window, bool topmost) override {
+        Set_State(window, "_NET_WM_STATE_ABOVE", topmost ? AddState : RemoveState);
+    }
+
+    void Leave_TaskBar(WindowId window) override {
+        Set_State(window, "_NET_WM_STATE_SKIP_TASKBAR", AddState);
+        Set_State(window, "_NET_WM_STATE_SKIP_PAGER", AddState);
+    }
+
+    // Window managers push ordinary windows out of the areas of panels, and leave those that have
+    // such an area themselves alone. This one reserves a strip of each screen edge far outside of
+    // the screen: nothing.
+    void Keep_Place(WindowId window) override {
+        constexpr std::uint32_t outside = 30000;
+        std::vector<std::uint32_t> strut(12, outside);
+        std::fill_n(strut.begin(), 4, 1U);
+        x11::Set_Items(Native(window), "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, strut);
+    }
+
+    void Activate(WindowId window) override {
+        xcb_connection_t* server = x11::Connection();
+        if (server == nullptr || window == 0) {
+            return;
+        }
+        const std::uint32_t raise = XCB_STACK_MODE_ABOVE;
+        const std::uint32_t now = x11::Server_Time();
+        xcb_configure_window(server, Native(window), XCB_CONFIG_WINDOW_STACK_MODE, &raise);
+        x11::Set_Items(Native(window), "_NET_WM_USER_TIME", XCB_ATOM_CARDINAL, {now});
+        if (x11::Has_Manager()) {
+            // As the user's own wish: from an application it would only flash in a panel.
+            x11::Tell_Manager(Native(window), "_NET_ACTIVE_WINDOW", {FromUser, now, 0, 0, 0});
+        } else if (Is_Mapped(server, Native(window))) {
+            xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, Native(window), now);
+        }
+        xcb_flush(server);
+    }
+
+    void Set_Alpha(WindowId window, int alpha) override {
+        const auto level = static_cast<std::uint32_t>(std::clamp(alpha, 0, 255));
+        x11::Set_Items(Native(window), "_NET_WM_WINDOW_OPACITY", XCB_ATOM_CARDINAL,
+                       {level * 0x01010101U});
+    }
+
+    void Clear_Alpha(WindowId window) override {
+        x11::Remove_Property(Native(window), "_NET_WM_WINDOW_OPACITY");
+    }
+
+    void Set_Shadow(WindowId window, bool shadow) override {
+        x11::Set_Items(Native(window), "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {shadow ? 1U : 0U});
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Windows> Make_Windows() {
+    return std::make_unique<LinuxWindows>();
+}
+
+} // namespace platform
