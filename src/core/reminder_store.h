@@ -5,13 +5,48 @@
 
 #include <QString>
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
-struct ReminderSlot {
-    bool Used = false;
-    bool Pending = false; // being built by a dialog: not fired, not saved
+// A slot's own reminder, used like a unique_ptr. It remembers until when the check of every second
+// has nothing to ask it; whoever reaches it otherwise than by Peek may change it, and makes it
+// asked again.
+class ReminderOwner {
+public:
+    ReminderOwner() = default;
+    ReminderOwner(std::nullptr_t) {}
+    ReminderOwner(std::unique_ptr<ReminderClass> reminder) : Reminder(std::move(reminder)) {}
+
+    ReminderClass* get() const {
+        QuietUntil = 0;
+        return Reminder.get();
+    }
+    ReminderClass* operator->() const { return get(); }
+    ReminderClass& operator*() const { return *get(); }
+    // To read only.
+    const ReminderClass& Peek() const { return *Reminder; }
+    explicit operator bool() const { return Reminder != nullptr; }
+    bool operator==(std::nullptr_t) const { return Reminder == nullptr; }
+    void reset() { *this = {}; }
+
+    bool Is_Quiet(MinuteCount now) const { return now < QuietUntil; }
+    // Engine_CheckRunReminder, which finds the next quiet time.
+    bool Check_Run(const Moment& now) const {
+        return Reminder->Engine_CheckRunReminder(now, QuietUntil);
+    }
+    void End_Quiet() const { QuietUntil = 0; }
+
+private:
+    mutable MinuteCount QuietUntil = 0;
     std::unique_ptr<ReminderClass> Reminder;
+};
+
+struct ReminderSlot {
+    bool Used = false;    // then Reminder is there
+    bool Pending = false; // being built by a dialog: not fired, not saved
+    ReminderOwner Reminder;
 };
 
 extern std::vector<ReminderSlot> Global_Reminders;
@@ -19,17 +54,33 @@ extern std::vector<ReminderSlot> Global_Reminders;
 // 0..50, all free.
 void Init_Reminders();
 
+// The check of every second: asks each used reminder that is not pending, in slot order, whether it
+// fires now, and delivers it at once, before the next is asked. deliver gets the slot and may add,
+// delete and edit reminders; slots that it adds are asked at the next tick.
+void Check_AllReminders(const std::function<void(std::int32_t index)>& deliver);
+
 // Loads the table. 0; -1 wrong header or unreadable, -2 version not known: then the table is empty
 // (0..20) and the file's damaged bytes are kept aside before a later save replaces them.
 int Load_Reminders(const QString& fileName);
 // Writes the used slots that are not pending. False: nothing was replaced.
 bool Save_Reminders(const QString& fileName);
 
+enum class AccountLoad {
+    NoFile,         // a new account, without starter reminders: the table stays as it is
+    Examples,       // a new account; how the load of its starter reminders ended does not matter
+    Loaded,         // and copied to "reminders.bak"
+    InvalidFile,    // to be told to the user
+    UnknownVersion, // to be told to the user
+};
+// The load at the start of the program: "reminders.dat" of the account's folder, or the starter
+// reminders when there is no such file.
+AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile);
+
 // The lowest rs_ID that no used slot has, and the millisecond clock as the second number.
 std::int32_t Get_NewReminderID(std::int32_t& id2);
 // Slot of the used reminder with this pair of numbers, or -1.
 std::int32_t Find_ReminderIndex(std::int32_t id, std::int32_t id2);
-// Frees a slot; the used ones behind it move down in order.
+// Frees a slot; the used ones behind it move down in order. An index outside does nothing.
 void Delete_ReminderSlot(std::int32_t index);
 // A free slot; the table grows by 20 when there is none.
 std::int32_t Take_FreeReminderSlot();

@@ -14,9 +14,17 @@
 using Day = std::int32_t;
 using Serial = std::int32_t;
 
+// The minutes of all days up to a moment, counted on; wraps for clocks that nobody has.
+using MinuteCount = std::uint32_t;
+
+constexpr Day NoDay = -1;
+constexpr std::int32_t MinutesOfDay = 1440;
+
 // Everything that a rule asks of the clock, from one reading of it, so that no rule sees two sides
 // of midnight.
 struct Moment {
+    // With a clock outside the years 2000..3000 the count of days just goes on: 0 and below, or
+    // past the last Day of the year 3000.
     Day Today = 0;
     Serial TodaySerial = 0;
     std::int32_t Minute = 0;
@@ -27,6 +35,11 @@ struct Moment {
     std::int32_t Week = 0;       // DayToWeek(Today)
     std::int32_t DaysInThisMonth = 31;
     float TimeFraction = 0; // time of day as a fraction of a day
+
+    MinuteCount Start_OfDay() const {
+        return static_cast<MinuteCount>(TodaySerial) * static_cast<MinuteCount>(MinutesOfDay);
+    }
+    MinuteCount Count() const { return Start_OfDay() + static_cast<MinuteCount>(Minute); }
 };
 
 // Reads the platform clock once.
@@ -59,5 +72,15 @@ std::int32_t DaysInMonth(std::int32_t month, std::int32_t year);
 // -1 for a date outside the calendar (years 2000..3000). Day 0 of a month is the last of the one
 // before.
 Day DateToDay(std::int32_t day, std::int32_t month, std::int32_t year);
+
+struct CalendarDate {
+    std::int32_t day = 1;
+    std::int32_t month = 1;
+    std::int32_t year = 2000;
+    bool operator==(const CalendarDate&) const = default;
+};
+// The way back from DateToDay, in the same calendar; any Day has a date.
+CalendarDate DayToDate(Day day);
+
 // weekday 1 = Monday .. 7 = Sunday, of this or the next week; -1 when it has passed this week.
 Day NextWeekdayDay(bool nextWeek, std::int32_t weekday);

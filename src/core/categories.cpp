@@ -1,0 +1,138 @@
+#include "core/categories.h"
+
+#include "core/damaged_file.h"
+#include "core/record_text.h"
+#include "core/reminder_store.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
+
+std::vector<CategoryEntry> Global_Categories;
+
+namespace {
+
+constexpr std::size_t FirstEntries = 11;
+constexpr std::size_t EntryStep = 10;
+
+DamagedFile File_OfCategories;
+
+const CategoryEntry defaultCategories[] = {
+    {u"Work"_s, u"Write"_s},
+    {u"Hobbies"_s, u"Laptop"_s},
+    {u"Birthdays"_s, u"Gift"_s},
+    {u"Family"_s, u"Home"_s},
+    {u"TV"_s, u"TV"_s},
+    {u"Appointments"_s, u"Planner"_s},
+    {u"Phone Calls"_s, u"Mobile"_s},
+    {u"Misc"_s, {}},
+};
+
+std::size_t Count_Categories() {
+    const auto end = std::find_if(Global_Categories.begin(), Global_Categories.end(),
+                                  [](const CategoryEntry& entry) { return entry.Name.isEmpty(); });
+    return static_cast<std::size_t>(end - Global_Categories.begin());
+}
+
+void Add_Category(std::size_t index, CategoryEntry entry) {
+    if (index >= Global_Categories.size())
+        Global_Categories.resize(Global_Categories.size() + EntryStep);
+    Global_Categories[index] = std::move(entry);
+}
+
+// A name that is empty would end the list in front of the entries behind it.
+void Read_Line(std::string_view line, std::size_t& count) {
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    const std::size_t middle = line.find(';');
+    if (middle == 0 || middle == line.npos || line.find(';', middle + 1) != line.npos)
+        return;
+    Add_Category(count++,
+                 {Decode_Text(line.substr(0, middle)), Decode_Text(line.substr(middle + 1))});
+}
+
+void Read_Lines(std::string_view bytes) {
+    std::size_t count = 0;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        Read_Line(bytes.substr(0, end), count);
+        bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
+    }
+}
+
+} // namespace
+
+void Init_Categories() {
+    Global_Categories.assign(FirstEntries, {});
+    File_OfCategories = {};
+}
+
+void Load_Categories(const QString& fileName) {
+    platform::Files& files = platform::Files::Get();
+    Global_Categories.assign(FirstEntries, {});
+    const std::optional<std::string> bytes = files.Read(fileName);
+    File_OfCategories.Note_Load(fileName, bytes || !files.Exists(fileName));
+    if (bytes)
+        Read_Lines(*bytes);
+    if (Global_Categories.front().Name.isEmpty())
+        std::copy(std::begin(defaultCategories), std::end(defaultCategories),
+                  Global_Categories.begin());
+}
+
+void Save_Categories(const QString& fileName) {
+    std::string bytes;
+    for (std::size_t index = 0; index < Count_Categories(); ++index) {
+        const CategoryEntry& entry = Global_Categories[index];
+        std::string line = Encode_Text(entry.Name);
+        const std::size_t middle = line.size();
+        line += ';';
+        Append_EncodedText(line, entry.Icon);
+        // What the form of a line cannot hold is left out, so that its neighbours stay readable;
+        // its reminders bring the name back.
+        if (line.find(';') != middle || line.rfind(';') != middle ||
+            line.find_first_of("\r\n") != line.npos)
+            continue;
+        bytes += line;
+        bytes += "\r\n";
+    }
+    File_OfCategories.Save(fileName, bytes);
+}
+
+int Find_Category(const QString& name) {
+    const QString lower = name.toLower();
+    const auto found = std::find_if(
+        Global_Categories.begin(), Global_Categories.end(),
+        [&lower](const CategoryEntry& entry) { return entry.Name.toLower() == lower; });
+    return found == Global_Categories.end() ? -1
+                                            : static_cast<int>(found - Global_Categories.begin());
+}
+
+void Sync_CategoriesFromReminders() {
+    std::size_t count = Count_Categories();
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used)
+            continue;
+        const ReminderClass& reminder = slot.Reminder.Peek();
+        if (!reminder.rs_Category.isEmpty() && Find_Category(reminder.rs_Category) == -1)
+            Add_Category(count++, {reminder.rs_Category, reminder.rs_Icon});
+    }
+}
+
+void Delete_Category(const QString& name) {
+    const QString lower = name.trimmed().toLower();
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (slot.Used && slot.Reminder.Peek().rs_Category.trimmed().toLower() == lower)
+            slot.Reminder->rs_Category.clear();
+    }
+    const int index = Find_Category(lower);
+    if (index == -1)
+        return;
+    Global_Categories.erase(Global_Categories.begin() + index);
+    Global_Categories.emplace_back();
+}
+
+QString Clean_CategoryText(const QString& text) {
+    return text.simplified();
+}

@@ -1,0 +1,156 @@
+#include "core/reminder_store.h"
+
+#include "core/damaged_file.h"
+#include "core/record_stream.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+
+#include <algorithm>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+std::vector<ReminderSlot> Global_Reminders;
+
+namespace {
+
+constexpr std::string_view FileHeader = "RSaveFile";
+constexpr std::string_view FileVersion = "001";
+constexpr std::size_t FirstSlots = 51;
+constexpr std::size_t FreeSlotsAfterLoad = 21;
+constexpr std::size_t SlotStep = 20;
+constexpr std::size_t LeastRecordBytes = 115; // of the oldest version, without texts and hours
+
+DamagedFile File_OfReminders;
+
+std::vector<ReminderSlot> New_Table(std::size_t slots) {
+    return std::vector<ReminderSlot>(slots);
+}
+
+int Read_Table(RecordReader& stream, std::vector<ReminderSlot>& table) {
+    if (stream.Get_Header(FileHeader.size()) != FileHeader)
+        return -1;
+    const std::string_view version = stream.Get_Header(FileVersion.size());
+    if (stream.Failed())
+        return -1;
+    if (version != FileVersion)
+        return -2;
+    const std::int32_t stored = stream.Get_Long();
+    if (stream.Failed() || stored < 0)
+        return -1;
+    const auto count = static_cast<std::size_t>(stored);
+    table.reserve(std::min(count, stream.Left() / LeastRecordBytes) + FreeSlotsAfterLoad);
+    for (std::size_t index = 0; index < count; ++index) {
+        auto reminder = std::make_unique<ReminderClass>();
+        if (const int result = reminder->LoadData_From_File(stream); result != 0)
+            return result;
+        table.push_back({true, false, std::move(reminder)});
+    }
+    table.resize(count + FreeSlotsAfterLoad);
+    return 0;
+}
+
+} // namespace
+
+void Init_Reminders() {
+    Global_Reminders = New_Table(FirstSlots);
+    File_OfReminders = {};
+}
+
+int Load_Reminders(const QString& fileName) {
+    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+    std::vector<ReminderSlot> table;
+    int result = -1;
+    if (bytes) {
+        RecordReader stream(*bytes);
+        result = Read_Table(stream, table);
+    }
+    File_OfReminders.Note_Load(fileName, result == 0);
+    Global_Reminders = result == 0 ? std::move(table) : New_Table(FreeSlotsAfterLoad);
+    return result;
+}
+
+bool Save_Reminders(const QString& fileName) {
+    RecordWriter stream;
+    stream.Put_Header(FileHeader);
+    stream.Put_Header(FileVersion);
+    const std::int64_t countPosition = stream.Position();
+    stream.Put_Long(0);
+    std::int32_t count = 0;
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used || slot.Pending)
+            continue;
+        slot.Reminder.Peek().SaveData_To_File(stream);
+        ++count;
+    }
+    stream.Put_LongAt(countPosition, count);
+    return !stream.Failed() && File_OfReminders.Save(fileName, stream.Bytes());
+}
+
+AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile) {
+    platform::Files& files = platform::Files::Get();
+    const QString fileName = accountFolder + "/reminders.dat"_L1;
+    if (!files.Exists(fileName)) {
+        if (!files.Exists(exampleFile))
+            return AccountLoad::NoFile;
+        Load_Reminders(exampleFile);
+        return AccountLoad::Examples;
+    }
+    switch (Load_Reminders(fileName)) {
+    case 0:
+        files.Copy(fileName, accountFolder + "/reminders.bak"_L1, true);
+        return AccountLoad::Loaded;
+    case -2:
+        return AccountLoad::UnknownVersion;
+    default:
+        return AccountLoad::InvalidFile;
+    }
+}
+
+std::int32_t Get_NewReminderID(std::int32_t& id2) {
+    id2 = platform::Clock::Get().Milliseconds();
+    // The lowest free number is at most the number of slots, whatever ids a file has brought.
+    std::vector<bool> taken(Global_Reminders.size() + 1);
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used || slot.Reminder.Peek().rs_ID < 0)
+            continue;
+        const auto id = static_cast<std::size_t>(slot.Reminder.Peek().rs_ID);
+        if (id < taken.size())
+            taken[id] = true;
+    }
+    const auto free = std::find(taken.begin(), taken.end(), false);
+    return static_cast<std::int32_t>(free - taken.begin());
+}
+
+std::int32_t Find_ReminderIndex(std::int32_t id, std::int32_t id2) {
+    const auto found = std::find_if(Global_Reminders.begin(), Global_Reminders.end(),
+                                    [id, id2](const ReminderSlot& slot) {
+                                        return slot.Used && slot.Reminder.Peek().rs_ID == id &&
+                                               slot.Reminder.Peek().rs_ID2 == id2;
+                                    });
+    if (found == Global_Reminders.end())
+        return -1;
+    return static_cast<std::int32_t>(found - Global_Reminders.begin());
+}
+
+void Delete_ReminderSlot(std::int32_t index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= Global_Reminders.size())
+        return;
+    auto target = static_cast<std::size_t>(index);
+    Global_Reminders[target] = {};
+    for (std::size_t source = target + 1; source < Global_Reminders.size(); ++source) {
+        if (!Global_Reminders[source].Used)
+            continue;
+        Global_Reminders[target++] = std::move(Global_Reminders[source]);
+        Global_Reminders[source] = {};
+    }
+}
+
+std::int32_t Take_FreeReminderSlot() {
+    const auto free = std::find_if(Global_Reminders.begin(), Global_Reminders.end(),
+                                   [](const ReminderSlot& slot) { return !slot.Used; });
+    const auto index = static_cast<std::int32_t>(free - Global_Reminders.begin());
+    if (free == Global_Reminders.end())
+        Global_Reminders.resize(Global_Reminders.size() + SlotStep);
+    return index;
+}
