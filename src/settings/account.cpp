@@ -1,0 +1,44 @@
+#include "settings/account.h"
+
+#include "platform/files.h"
+#include "platform/session.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+QString Global_UserPath;
+
+namespace {
+
+// The marker must never empty a file of the account.
+bool May_Be_Marker(const QString& name) {
+    static const QStringList dataFiles{u"reminders.dat"_s,   u"reminders.bak"_s,
+                                       u"rareminders.dat"_s, u"links.dat"_s,
+                                       u"notes.dat"_s,       u"rcategories.txt"_s};
+    return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/') &&
+           !name.contains(u'\\') && !name.startsWith("reminders.dat"_L1, Qt::CaseInsensitive) &&
+           !dataFiles.contains(name, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+void Open_Account(const QString& programFolder, std::int32_t number) {
+    Global_UserPath = programFolder + "/User-"_L1 + QString::number(number);
+    auto& files = platform::Files::Get();
+    if (!files.Exists(Global_UserPath)) {
+        files.Make_Folder(Global_UserPath);
+    }
+    const QString user = platform::Session::Get().User_Name();
+    if (!May_Be_Marker(user)) {
+        return;
+    }
+    const auto marker = files.Read(Account_File(user));
+    if (!marker || !marker->empty()) {
+        files.Replace(Account_File(user), {});
+    }
+}
+
+QString Account_File(const QString& name) {
+    return Global_UserPath + u'/' + name;
+}

@@ -1,0 +1,16 @@
+// The account: a numbered data folder beside the shared files for each user of the machine.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+// The user's data folder for the whole run; no "/" at its end.
+extern QString Global_UserPath;
+
+// Sets Global_UserPath to "User-<number>" below the program folder, makes the folder and leaves an
+// empty file named after the user in it, so that a person browsing the folders can tell whose it
+// is. Failures are ignored: loading goes on.
+void Open_Account(const QString& programFolder, std::int32_t number);
+// A data file of the account.
+QString Account_File(const QString& name);
