@@ -13,3 +13,5 @@ extern std::vector<QPointer<QWidget>> Global_PendingUnloads;
 void Queue_FormUnload(QWidget* form);
 // Hides and releases every form in the list, and empties it. May be called from anywhere.
 void Unload_PendingForms();
+// The work of UnloadFormsTimer: stops the timer, then unloads.
+void UnloadFormsTimer_Tick();

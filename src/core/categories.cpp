@@ -1,9 +1,9 @@
 #include "core/categories.h"
 
 #include "core/damaged_file.h"
-#include "core/record_text.h"
 #include "core/reminder_store.h"
 #include "platform/files.h"
+#include "platform/record_text.h"
 
 #include <algorithm>
 #include <string_view>

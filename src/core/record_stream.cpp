@@ -1,6 +1,6 @@
 #include "core/record_stream.h"
 
-#include "core/record_text.h"
+#include "platform/record_text.h"
 
 #include <QtEndian>
 

@@ -20,6 +20,7 @@ constexpr std::size_t FirstSlots = 51;
 constexpr std::size_t FreeSlotsAfterLoad = 21;
 constexpr std::size_t SlotStep = 20;
 constexpr std::size_t LeastRecordBytes = 115; // of the oldest version, without texts and hours
+constexpr std::size_t UsualRecordBytes = 256;
 
 DamagedFile File_OfReminders;
 
@@ -72,6 +73,7 @@ int Load_Reminders(const QString& fileName) {
 
 bool Save_Reminders(const QString& fileName) {
     RecordWriter stream;
+    stream.Reserve(Global_Reminders.size() * UsualRecordBytes);
     stream.Put_Header(FileHeader);
     stream.Put_Header(FileVersion);
     const std::int64_t countPosition = stream.Position();

@@ -25,7 +25,7 @@ struct ToolbarMessage {
 
 extern std::vector<ToolbarMessage> Global_ToolbarMessages; // 0..20, grown by 20
 extern std::int32_t Global_CurrentMessage;                 // -1 = none on the line
-extern bool Global_MessagePaused; // while set the scrolling stands still
+extern bool Global_MessagePaused;                          // while set the scrolling stands still
 
 void Init_ToolbarMessages();
 // Queues the reminder of a slot once, and starts S_Reminder_Timer.

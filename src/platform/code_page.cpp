@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace platform {
 
@@ -15,18 +14,6 @@ constexpr std::array<char16_t, 32> Middle{
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 constexpr unsigned MiddleStart = 0x80;
 constexpr unsigned MiddleEnd = MiddleStart + Middle.size();
-
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
-// Only what the writer would store in exactly these bytes counts as marked.
-std::optional<QString> Marked_Text(std::string_view bytes) {
-    if (!bytes.starts_with(Utf8Mark)) {
-        return std::nullopt;
-    }
-    const std::string_view tail = bytes.substr(Utf8Mark.size());
-    QString text = QString::fromUtf8(tail.data(), static_cast<qsizetype>(tail.size()));
-    return Text_ToBytes(text) == bytes ? std::optional(std::move(text)) : std::nullopt;
-}
 
 } // namespace
 
@@ -57,19 +44,6 @@ std::optional<std::string> To_CodePage(const QString& text) {
         bytes.push_back(static_cast<char>(MiddleStart + (found - Middle.begin())));
     }
     return bytes;
-}
-
-std::string Text_ToBytes(const QString& text) {
-    const std::optional<std::string> bytes = To_CodePage(text);
-    // A text of the page may by chance be another text's marked form: it is marked itself.
-    if (bytes && !Marked_Text(*bytes)) {
-        return *bytes;
-    }
-    return std::string(Utf8Mark) + text.toStdString();
-}
-
-QString Text_FromBytes(std::string_view bytes) {
-    return Marked_Text(bytes).value_or(From_CodePage(bytes));
 }
 
 } // namespace platform

@@ -15,9 +15,4 @@ QString From_CodePage(std::string_view bytes);
 // One byte a UTF-16 unit; nothing when a character has no byte.
 std::optional<std::string> To_CodePage(const QString& text);
 
-// A text as the program's files hold it: in the code page, or as UTF-8 behind EF BB BF when the
-// page cannot hold it. Lone surrogates aside, reading gives the text back.
-std::string Text_ToBytes(const QString& text);
-QString Text_FromBytes(std::string_view bytes);
-
 } // namespace platform

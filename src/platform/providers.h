@@ -17,6 +17,7 @@ class Registry;
 class Session;
 class SessionEnd;
 class Shell;
+class Tray;
 class Windows;
 
 // Without a window system.
@@ -33,6 +34,7 @@ std::unique_ptr<Instance> Make_Instance();
 std::unique_ptr<Media> Make_Media();
 std::unique_ptr<SessionEnd> Make_SessionEnd();
 std::unique_ptr<Shell> Make_Shell();
+std::unique_ptr<Tray> Make_Tray();
 std::unique_ptr<Windows> Make_Windows();
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #include "platform/reg_text.h"
 
-#include "platform/code_page.h"
+#include "platform/record_text.h"
 
 #include <array>
 #include <charconv>
@@ -124,7 +124,7 @@ QString Long_Root_Name(RegistryRoot root) {
 
 std::string Quoted_Bytes(const QString& text) {
     std::string quoted;
-    for (const char byte : Text_ToBytes(text)) {
+    for (const char byte : Encode_Text(text)) {
         char escape = 0;
         for (const auto& [plain, letter] : Escapes) {
             escape = byte == plain ? letter : escape;
@@ -154,11 +154,11 @@ std::optional<QString> Unquoted_Text(std::string_view bytes) {
         }
         plain.push_back(byte);
     }
-    return Text_FromBytes(plain);
+    return Decode_Text(plain);
 }
 
 std::string Key_Line(RegistryRoot root, const QString& path) {
-    const std::string below = path.isEmpty() ? std::string() : "\\" + Text_ToBytes(path);
+    const std::string below = path.isEmpty() ? std::string() : "\\" + Encode_Text(path);
     return "[" + Long_Root_Name(root).toStdString() + below + "]";
 }
 
@@ -226,7 +226,7 @@ RegText Read_RegText(RegistryRoot root, std::string_view text) {
         if (line.starts_with('[')) {
             std::string_view inside = line.substr(1, line.size() - 2);
             const bool isOurs = line.ends_with(']') && Take_Until(inside, '\\') == rootName;
-            key = Text_FromBytes(inside);
+            key = Decode_Text(inside);
             if (!isOurs || !result.tree.Create_Key(*key)) {
                 key.reset();
             }

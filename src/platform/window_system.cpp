@@ -6,6 +6,7 @@
 #include "platform/session.h"
 #include "platform/shell.h"
 #include "platform/system.h"
+#include "platform/tray.h"
 #include "platform/window.h"
 
 namespace platform {
@@ -17,6 +18,7 @@ void Provide_Window_Services() {
     static const auto media = Make_Media();
     static const auto sessionEnd = Make_SessionEnd();
     static const auto shell = Make_Shell();
+    static const auto tray = Make_Tray();
     static const auto windows = Make_Windows();
     Desktop::Provide(desktop.get());
     Dialogs::Provide(dialogs.get());
@@ -24,6 +26,7 @@ void Provide_Window_Services() {
     Media::Provide(media.get());
     SessionEnd::Provide(sessionEnd.get());
     Shell::Provide(shell.get());
+    Tray::Provide(tray.get());
     Windows::Provide(windows.get());
 }
 

@@ -1,6 +1,6 @@
 #include "settings/reg_file.h"
 
-#include "core/record_text.h"
+#include "platform/record_text.h"
 #include "platform/reg_text.h"
 #include "settings/hex_text.h"
 

@@ -1,7 +1,7 @@
 #include "settings/registry_access.h"
 
-#include "core/record_text.h"
 #include "platform/files.h"
+#include "platform/record_text.h"
 #include "platform/reg_text.h"
 #include "platform/registry.h"
 #include "settings/hex_text.h"

@@ -1,7 +1,7 @@
 #include "core/record_stream.h"
-#include "core/record_text.h"
 #include "core_test.h"
 #include "platform/code_page.h"
+#include "platform/record_text.h"
 
 #include <limits>
 #include <random>

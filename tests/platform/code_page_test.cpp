@@ -1,4 +1,5 @@
 #include "platform/code_page.h"
+#include "platform/record_text.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +48,7 @@ TEST(CodePage, a_text_is_stored_in_the_page_or_as_marked_utf8) {
         {"beyond sixteen bits", u"\U0001F600"_s, Bytes({0xEF, 0xBB, 0xBF, 0xF0, 0x9F, 0x98, 0x80})},
     };
     for (const auto& one : cases) {
-        EXPECT_EQ(platform::Text_ToBytes(one.text), one.bytes) << one.name;
-        EXPECT_EQ(platform::Text_FromBytes(one.bytes), one.text) << one.name;
+        EXPECT_EQ(Encode_Text(one.text), one.bytes) << one.name;
+        EXPECT_EQ(Decode_Text(one.bytes), one.text) << one.name;
     }
 }

@@ -7,6 +7,7 @@
 #include "support/fake_instance.h"
 #include "support/fake_paths.h"
 #include "support/fake_session.h"
+#include "support/fake_tray.h"
 #include "support/memory_registry.h"
 #include "support/recording_media.h"
 #include "support/recording_shell.h"
@@ -26,4 +27,5 @@ struct FakeSystem {
     ScriptedDialogs dialogs;
     FakeInstance instance;
     FakeSessionEnd sessionEnd;
+    FakeTray tray;
 };

@@ -1,4 +1,4 @@
-#include "core/record_text.h"
+#include "platform/record_text.h"
 
 #include "platform/code_page.h"
 

@@ -1,0 +1,11 @@
+// The program's own pictures, drawn from vector files at whatever scale the screen has.
+#pragma once
+
+#include <QIcon>
+#include <QSize>
+
+enum class IconName { AddReminder, ViewReminders, ViewNotes, OpenTextbox, Program };
+
+QIcon Load_Icon(IconName name);
+// The size a picture was drawn for, pixels.
+QSize Icon_Size(IconName name);

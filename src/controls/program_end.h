@@ -1,0 +1,7 @@
+// Whether the program is on its way out. Everything that handles events inside a handler of its
+// own (a popup menu, an animation, a box) asks this afterwards, and does nothing more if so.
+#pragma once
+
+bool Program_Is_Ending();
+// Set by the application when the end begins.
+void Set_Program_Ending(bool ending);

@@ -1,0 +1,3 @@
+#include "controls/toolbar.h"
+
+Toolbar* Global_Toolbar = nullptr;

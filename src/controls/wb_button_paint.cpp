@@ -1,0 +1,90 @@
+#include "controls/metrics.h"
+#include "controls/painting.h"
+#include "controls/wb_button.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+QColor wbButton::Face_Color() const {
+    const QColor color = palette::To_Color(highlighted ? hlColor : backColor);
+    return isEnabled() ? color : palette::Faded(color);
+}
+
+QColor wbButton::Caption_Color() const {
+    if (!isEnabled()) {
+        return palette::To_Color(palette::System_GrayText);
+    }
+    return palette::To_Color(mouseOver ? hForeColor : foreColor);
+}
+
+QColor wbButton::Border_Color() const {
+    const QColor color = palette::To_Color(mouseOver ? hBorderColor : borderColor);
+    return isEnabled() ? color : palette::Faded(color);
+}
+
+void wbButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (style == ButtonStyle::System) {
+        Paint_SystemFace(painter);
+        return;
+    }
+    if (backStyle == BackStyle::Opaque) {
+        painter.fillRect(rect(), Face_Color());
+    }
+    if (!picture.isNull()) {
+        const QPixmap pixels = picture.pixmap(pictureSize, devicePixelRatioF(),
+                                              isEnabled() ? QIcon::Normal : QIcon::Disabled);
+        painter.drawPixmap(Picture_Rect(), pixels);
+    }
+    Paint_Decorations(painter);
+    Paint_Caption(painter);
+    if (hasFocus() && focusByKey && window()->isActiveWindow()) {
+        Draw_Frame(painter, rect().adjusted(1, 1, -1, -1), palette::To_Color(palette::Focus_Mark));
+    }
+    Draw_Frame(painter, rect(), Border_Color());
+}
+
+void wbButton::Paint_SystemFace(QPainter& painter) {
+    QStyleOptionButton option;
+    option.initFrom(this);
+    option.text = fontMetrics().elidedText(caption, Qt::ElideRight, width() - 6);
+    option.state.setFlag(QStyle::State_Sunken, highlighted);
+    option.state.setFlag(QStyle::State_Raised, !highlighted);
+    QWidget::style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+}
+
+void wbButton::Paint_Decorations(QPainter& painter) {
+    const QColor color = isEnabled() ? palette::To_Color(palette::Black)
+                                     : palette::To_Color(palette::System_GrayText);
+    for (const QRect& shape : shapes) {
+        Draw_Frame(painter, shape, color);
+    }
+    for (const QLine& line : lines) {
+        if (line.dx() == 0 || line.dy() == 0) {
+            Draw_Line(painter, line.p1(), line.p2(), color);
+            continue;
+        }
+        // Slanted lines run through the middles of their pixels.
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(0.5, 0.5);
+        painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(line);
+        painter.restore();
+    }
+}
+
+void wbButton::Paint_Caption(QPainter& painter) {
+    if (caption.isEmpty()) {
+        return;
+    }
+    painter.setPen(Caption_Color());
+    QRect place = Caption_Rect();
+    QString text = caption;
+    if (fontMetrics().horizontalAdvance(text) > width() - 4) {
+        place = QRect(2, place.top(), width() - 4, place.height());
+        text = fontMetrics().elidedText(text, Qt::ElideRight, place.width());
+    }
+    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, text);
+}

@@ -1,0 +1,129 @@
+#include "delivery/frm_missed_reminders.h"
+
+#include "controls/icons.h"
+#include "controls/metrics.h"
+#include "controls/palette.h"
+#include "controls/program_end.h"
+#include "core/reminder_store.h"
+#include "delivery/deliver.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QStyle>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int RowHeight = 16;
+constexpr int FromEdge = 2;
+constexpr int SmallestLayout = 50;      // below it the controls stay as they are
+constexpr qsizetype MeasuredText = 500; // wider than any screen
+
+std::unique_ptr<frmMissedReminders> missedWindow;
+
+QPalette List_Palette() {
+    QPalette colors(palette::To_Color(palette::System_ButtonFace));
+    colors.setColor(QPalette::Base, palette::To_Color(palette::White));
+    colors.setColor(QPalette::Text, palette::To_Color(palette::Black));
+    return colors;
+}
+
+// A row is one line, whatever the text holds.
+QString Row_Text(const QString& text) {
+    QString line = text;
+    line.replace(u'\r', u' ').replace(u'\n', u' ');
+    return line;
+}
+
+} // namespace
+
+frmMissedReminders::frmMissedReminders() {
+    setWindowTitle(u"Missed Reminders"_s);
+    setWindowIcon(Load_Icon(IconName::Program));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setPalette(List_Palette());
+    List1 = new QListWidget(this);
+    List1->setFont(Small_Font());
+    List1->setAccessibleName(u"Missed Reminders"_s);
+    List1->setAccessibleDescription(u"Double click to view"_s);
+    List1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    List1->setTextElideMode(Qt::ElideRight);
+    List1->setUniformItemSizes(true);
+    Label1 = new QLabel(u"Double click to view"_s, this);
+    Label1->setFont(Small_Font());
+    Label1->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    connect(List1, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem* item) { Deliver_Row(List1->row(item)); });
+}
+
+void frmMissedReminders::Fill_List(std::vector<MissedEntry> missed) {
+    entries = std::move(missed);
+    List1->clear();
+    for (const MissedEntry& entry : entries) {
+        auto* item = new QListWidgetItem(Row_Text(entry.Text), List1);
+        item->setSizeHint(QSize(0, RowHeight));
+        item->setToolTip(entry.Text.left(MeasuredText));
+    }
+    List1->setCurrentRow(0);
+}
+
+void frmMissedReminders::Place_Window() {
+    int widest = 0;
+    for (const MissedEntry& entry : entries)
+        widest = std::max(widest, List1->fontMetrics().horizontalAdvance(
+                                      Row_Text(entry.Text.left(MeasuredText))));
+    // The window manager's frame is known only once it is there: the style's title bar stands for
+    // it.
+    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    const MissedPlace place =
+        Place_MissedWindow(static_cast<int>(entries.size()), widest, frame,
+                           Global_Toolbar->Bounds(), platform::Desktop::Get().Screen_Size());
+    resize(place.Width, place.Height - frame);
+    move(place.Left, place.Top);
+}
+
+void frmMissedReminders::Deliver_Row(int row) {
+    if (row < 0 || static_cast<std::size_t>(row) >= entries.size() || Program_Is_Ending())
+        return;
+    const MissedEntry& entry = entries[static_cast<std::size_t>(row)];
+    if (const std::int32_t index = Find_ReminderIndex(entry.ID, entry.ID2); index != -1)
+        Deliver_Reminder(index);
+}
+
+void frmMissedReminders::resizeEvent(QResizeEvent*) {
+    if (isMinimized() || width() < SmallestLayout || height() < SmallestLayout)
+        return;
+    const int labelTop = height() - FromEdge - SmallLineHeight;
+    Label1->setGeometry(0, labelTop, width(), SmallLineHeight);
+    List1->setGeometry(0, 0, width(), labelTop - FromEdge);
+}
+
+void frmMissedReminders::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Deliver_Row(List1->currentRow());
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void LoadAndShow_MissedReminders() {
+    if (missedWindow == nullptr)
+        missedWindow = std::make_unique<frmMissedReminders>();
+    std::vector<MissedEntry> missed = List_MissedReminders(Read_Moment());
+    const bool hasRows = !missed.empty();
+    missedWindow->Fill_List(std::move(missed));
+    missedWindow->Place_Window();
+    if (hasRows)
+        missedWindow->show();
+}
+
+void Unload_MissedReminders() {
+    missedWindow.reset();
+}

@@ -1,0 +1,79 @@
+// The window of a reminder: a small borderless note with its text, up to four buttons that open
+// something, and reminders that wait inside it for their turn.
+#pragma once
+
+#include "controls/wb_button.h"
+#include "core/reminder.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+#include <deque>
+
+class QPlainTextEdit;
+
+class frmImportantRWin : public QWidget {
+    Q_OBJECT
+public:
+    frmImportantRWin();
+    // Frees the entry of the window, if it still has one.
+    ~frmImportantRWin() override;
+
+    // The reminder on view.
+    std::int32_t ThisReminderID = 0;
+    std::int32_t ThisCategoryID = 0; // rs_ID2
+    // The window's entry in the table that IsCenteredWindow says; -1 = none.
+    std::int32_t ListIndex = -1;
+    // The shared window at the centre (Global_CenterWindows), else one beside the toolbar
+    // (Global_NearWindows).
+    bool IsCenteredWindow = false;
+
+    // Fills the window for the reminder of a used slot; its height may change.
+    void UpdateWindow(std::int32_t reminderIndex);
+    // Adds a waiting reminder, by its entry of the window's table.
+    void AddReminder(std::int32_t slot);
+    std::int32_t PendingCount() const { return static_cast<std::int32_t>(PendingList.size()); }
+    // Above the other windows, without the focus, and out of the task bar. A fade if it is wanted.
+    void Show_Window();
+
+    // Opens what action button "index" stands for.
+    void wbButton1_Click(int index);
+    // Opens the menu of the reminder. The window may be gone afterwards.
+    void wbButton2_Click();
+    // Shows the next waiting reminder, or closes the window.
+    void wbButton3_Click();
+    // Closed by its user, and about to be released.
+    bool Is_Closed() const { return closed; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Build_Controls();
+    void Show_Text(const QString& text);
+    int Show_Actions(const ReminderClass& reminder);
+    void Show_Action(int row, const FunctionEntry& entry);
+    void Lay_Out(int actions);
+    void Stay_OnScreen(int formerBottom);
+    void Mark_Pending();
+    void Tell_ScreenReader();
+    void Free_Entry();
+    bool Take_Entry(std::int32_t slot);
+    void Close_Window();
+
+    std::array<FunctionType, ReminderClass::FunctionCount> ActionKind{};
+    std::array<QString, ReminderClass::FunctionCount> ActionTarget;
+    std::array<std::uint8_t, ReminderClass::FunctionCount> ActionWindowState{};
+    std::deque<std::int32_t> PendingList; // entries of the table, first added first
+
+    QPlainTextEdit* Text1 = nullptr;
+    std::array<wbButton*, ReminderClass::FunctionCount> wbButton1{};
+    wbButton* wbButton2 = nullptr;
+    wbButton* wbButton3 = nullptr;
+    int shapeHeight = 77; // pixels, of the outline
+    bool closed = false;
+};

@@ -1,0 +1,79 @@
+#include "delivery/missed_reminders.h"
+
+#include "core/date_text.h"
+#include "core/reminder_store.h"
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LeastTextWidth = 180;
+constexpr int MostRows = 10;
+constexpr int RowHeight = 16;
+constexpr int BelowRows = 20; // the label under the list
+constexpr int BesideText = 40;
+constexpr int FromToolbar = 15;
+
+// The day whose run was missed; nothing when none was.
+std::optional<Day> Find_MissedDay(ReminderClass& reminder, const Moment& now) {
+    // Here the date is compared as a Day, which only an earlier list has stored.
+    if (reminder.rs_LastExecutedDate == now.Today)
+        return std::nullopt;
+    if (reminder.Engine_CheckDate(now) && reminder.Check_ReminderWasMissedToday(now))
+        return now.Today;
+    const Day previous = reminder.GetPrevious_RunDate(now);
+    // A reminder that fired holds a Serial, which is above any Day: it is never in this list. That
+    // is meant.
+    if (previous == NoDay || previous <= reminder.rs_LastExecutedDate || previous >= now.Today ||
+        previous < reminder.rs_DayCreated)
+        return std::nullopt;
+    reminder.rs_LastExecutedDate = now.Today;
+    return previous;
+}
+
+QString Day_Prefix(Day missed, Day today) {
+    if (missed == today)
+        return u"Today: "_s;
+    return missed == today - 1 ? u"Yesterday: "_s : DayToDateString(missed) + ": "_L1;
+}
+
+} // namespace
+
+std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
+    std::vector<MissedEntry> rows;
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used || slot.Pending || !slot.Reminder.Peek().rs_Enabled)
+            continue;
+        ReminderClass& reminder = *slot.Reminder;
+        const std::optional<Day> missed = Find_MissedDay(reminder, now);
+        if (!missed)
+            continue;
+        QString text = reminder.rs_Text;
+        text.replace("\r\n"_L1, " - "_L1);
+        rows.push_back(
+            {Day_Prefix(*missed, now.Today) + text, reminder.rs_ID, reminder.rs_ID2, *missed});
+    }
+    std::stable_sort(
+        rows.begin(), rows.end(),
+        [](const MissedEntry& one, const MissedEntry& other) { return one.Day > other.Day; });
+    return rows;
+}
+
+MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
+                               const ToolbarRect& toolbar, const platform::Size& screen) {
+    MissedPlace place;
+    const int shownRows = std::clamp(rows + 1, 2, MostRows);
+    place.Height = shownRows * RowHeight + BelowRows + frameHeight;
+    // A text of any length must not make a window that nobody can take hold of.
+    place.Width = std::min(std::max(widestText, LeastTextWidth), screen.width) + BesideText;
+    place.Width = std::min(place.Width, screen.width);
+    place.Top = toolbar.Bottom + FromToolbar;
+    if (place.Top + place.Height > screen.height)
+        place.Top = toolbar.Top - FromToolbar - place.Height;
+    place.Top = std::max(std::min(place.Top, screen.height - place.Height), 0);
+    place.Left = std::max(std::min(toolbar.Left, screen.width - place.Width), 0);
+    return place;
+}

@@ -1,0 +1,39 @@
+// Which reminders had their time while the program was not running, and the window that offers
+// them once at each start.
+#pragma once
+
+#include "controls/toolbar.h"
+#include "core/time_routines.h"
+#include "platform/desktop.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+struct MissedEntry {
+    QString Text; // with the day in front
+    std::int32_t ID = 0;
+    std::int32_t ID2 = 0;
+    ::Day Day = 0; // the day missed
+};
+
+// The rows, newest day first. Notes in each reminder that its run has been offered.
+std::vector<MissedEntry> List_MissedReminders(const Moment& now);
+
+// Bounds of the window with its frame, screen pixels.
+struct MissedPlace {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool operator==(const MissedPlace&) const = default;
+};
+// widestText and frameHeight (what the frame adds to the height): pixels.
+MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
+                               const ToolbarRect& toolbar, const platform::Size& screen);
+
+// Builds the list, and shows the window when there is something in it.
+void LoadAndShow_MissedReminders();
+// Releases the window, at the end of the program.
+void Unload_MissedReminders();

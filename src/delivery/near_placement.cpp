@@ -1,0 +1,180 @@
+#include "delivery/near_placement.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+namespace {
+
+constexpr std::size_t FirstEntries = 21;
+constexpr std::size_t MoreEntries = 20;
+constexpr std::int32_t WindowWidth = 254;
+constexpr std::int32_t Overhang = 20;       // a window may pass the screen's edge by so much
+constexpr std::int32_t TypicalHeight = 190; // to find the larger free part of the screen
+
+// Index of the first free entry; nothing when the reminder is in the table.
+template <class Entry>
+std::optional<std::size_t> Take_Entry(std::vector<Entry>& table, const WindowRequest& request) {
+    std::size_t free = table.size();
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (!table[i].Used) {
+            if (free == table.size())
+                free = i;
+        } else if (table[i].ID == request.ID && table[i].ID2 == request.ID2) {
+            return std::nullopt;
+        }
+    }
+    if (free == table.size())
+        table.resize(table.size() + MoreEntries);
+    return free;
+}
+
+template <class Entry>
+void Fill_Entry(Entry& entry, const WindowRequest& request) {
+    entry.Used = true;
+    entry.ReminderIndex = request.ReminderIndex;
+    entry.ID = request.ID;
+    entry.ID2 = request.ID2;
+}
+
+// The column behind the last one of the side.
+std::int32_t Next_Column(const std::vector<NearWindowEntry>& table, NearSide side) {
+    std::int32_t highest = 0;
+    for (const NearWindowEntry& entry : table)
+        if (entry.Used && entry.Side == side)
+            highest = std::max(highest, entry.Column);
+    return highest + 1;
+}
+
+NearSide Opposite(NearSide side) {
+    return side == NearSide::Left ? NearSide::Right : NearSide::Left;
+}
+
+// Left edge of a window in a column of the side.
+std::int32_t Column_Left(const ToolbarRect& toolbar, NearSide side, std::int32_t column) {
+    return side == NearSide::Left ? toolbar.Left - column * WindowWidth
+                                  : toolbar.Right + (column - 1) * WindowWidth;
+}
+
+bool Fits(const ToolbarRect& toolbar, const platform::Size& screen, NearSide side,
+          std::int32_t column) {
+    const std::int32_t left = Column_Left(toolbar, side, column);
+    return side == NearSide::Left ? left >= -Overhang
+                                  : left + WindowWidth <= screen.width + Overhang;
+}
+
+bool Reaches_Upward(const ToolbarRect& toolbar, const platform::Size& screen) {
+    return screen.height - (toolbar.Top + TypicalHeight) <= toolbar.Bottom - TypicalHeight;
+}
+
+// The window with the fewest reminders added to it, of equal ones the oldest; the first that has
+// none is taken whatever its age.
+std::size_t Choose_Host(const std::vector<NearWindowEntry>& table) {
+    std::size_t host = table.size();
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const NearWindowEntry& entry = table[i];
+        if (!entry.Used || entry.IsQueued)
+            continue;
+        if (entry.Waiting == 0)
+            return i;
+        if (host == table.size() || entry.Waiting < table[host].Waiting ||
+            (entry.Waiting == table[host].Waiting && entry.Tick < table[host].Tick))
+            host = i;
+    }
+    return host;
+}
+
+void Stand_First(NearWindowEntry& entry, const ToolbarRect& toolbar, const platform::Size& screen) {
+    entry.Side = Fits(toolbar, screen, NearSide::Right, 1) ? NearSide::Right : NearSide::Left;
+    entry.Column = 1;
+}
+
+// Behind the last column, on the side opposite to the edge window first. False: both are full.
+bool Stand_Behind(NearWindowEntry& entry, const std::vector<NearWindowEntry>& table,
+                  NearSide edgeSide, const ToolbarRect& toolbar, const platform::Size& screen) {
+    for (const NearSide side : {Opposite(edgeSide), edgeSide}) {
+        entry.Side = side;
+        entry.Column = Next_Column(table, side);
+        if (Fits(toolbar, screen, side, entry.Column))
+            return true;
+    }
+    return false;
+}
+
+void Wait_Inside(NearWindowEntry& entry, std::vector<NearWindowEntry>& table, std::size_t host) {
+    for (NearWindowEntry& other : table)
+        if (other.Used && !other.IsQueued)
+            other.IsEdgeWindow = false;
+    entry.Side = table[host].Side;
+    entry.AlignBottom = table[host].AlignBottom;
+    entry.Column = table[host].Column;
+    entry.WorkForm = table[host].WorkForm;
+    entry.IsQueued = true;
+    ++table[host].Waiting;
+}
+
+// Decides for the reminder of the entry, which is not in the table yet.
+NearPlacement Place_Entry(NearWindowEntry& entry, std::vector<NearWindowEntry>& table,
+                          const ToolbarRect& toolbar, const platform::Size& screen) {
+    NearPlacement placement;
+    placement.Decision = NearDecision::NewWindow;
+    const auto first = std::find_if(table.begin(), table.end(),
+                                    [](const NearWindowEntry& other) { return other.Used; });
+    const auto edge = std::find_if(first, table.end(), [](const NearWindowEntry& other) {
+        return other.Used && other.IsEdgeWindow;
+    });
+    entry.AlignBottom = first == table.end() ? Reaches_Upward(toolbar, screen) : first->AlignBottom;
+    if (edge == table.end()) {
+        Stand_First(entry, toolbar, screen);
+    } else if (Stand_Behind(entry, table, edge->Side, toolbar, screen)) {
+        edge->IsEdgeWindow = false;
+    } else if (placement.Host = Choose_Host(table); placement.Host < table.size()) {
+        placement.Decision = NearDecision::Queued;
+        Wait_Inside(entry, table, placement.Host);
+    } else {
+        Stand_First(entry, toolbar, screen);
+    }
+    placement.X = Column_Left(toolbar, entry.Side, entry.Column);
+    return placement;
+}
+
+} // namespace
+
+std::vector<NearWindowEntry> Global_NearWindows;
+std::vector<CenterWindowEntry> Global_CenterWindows;
+
+void Init_ReminderWindows() {
+    Global_NearWindows.assign(FirstEntries, NearWindowEntry());
+    Global_CenterWindows.assign(FirstEntries, CenterWindowEntry());
+}
+
+NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
+                               const ToolbarRect& toolbar, const platform::Size& screen) {
+    const std::optional<std::size_t> free = Take_Entry(table, request);
+    if (!free)
+        return {};
+    NearWindowEntry entry;
+    entry.IsEdgeWindow = true;
+    entry.Tick = request.Tick;
+    Fill_Entry(entry, request);
+    NearPlacement placement = Place_Entry(entry, table, toolbar, screen);
+    placement.Entry = *free;
+    table[*free] = entry;
+    return placement;
+}
+
+std::int32_t NearWindow_Top(const ToolbarRect& toolbar, bool alignBottom, std::int32_t height) {
+    return alignBottom ? toolbar.Bottom - height : toolbar.Top;
+}
+
+std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request) {
+    const std::optional<std::size_t> free = Take_Entry(table, request);
+    if (!free)
+        return -1;
+    Fill_Entry(table[*free], request);
+    return static_cast<std::int32_t>(*free);
+}
+
+platform::Point Centered_Place(const platform::Size& screen, const platform::Size& window) {
+    return {(screen.width - window.width) / 2, (screen.height - window.height) / 2};
+}

@@ -1,0 +1,68 @@
+// Where the reminder windows stand: in columns to the left and right of the toolbar, or at the
+// centre of the screen. The tables say what is on view now. Plain data; all lengths are pixels.
+#pragma once
+
+#include "controls/toolbar.h"
+#include "platform/desktop.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class frmImportantRWin;
+
+enum class NearSide : std::uint8_t { Left = 0, Right = 1 };
+
+struct NearWindowEntry {
+    bool Used = false;
+    NearSide Side = NearSide::Left;
+    bool AlignBottom = false; // bottoms level, the window reaches upward; else tops, downward
+    std::int32_t Column = 0;  // 1 = touches the toolbar
+    std::int32_t Waiting = 0; // how many reminders were added to this window
+    bool IsQueued = false;    // held inside another entry's window
+    std::int32_t Tick = 0;    // millisecond clock at creation
+    std::int32_t ReminderIndex = 0;
+    frmImportantRWin* WorkForm = nullptr;
+    bool IsEdgeWindow = false; // the outermost of its column
+    std::int32_t ID = 0;
+    std::int32_t ID2 = 0;
+};
+
+struct CenterWindowEntry {
+    bool Used = false;
+    std::int32_t ReminderIndex = 0;
+    std::int32_t ID = 0;
+    std::int32_t ID2 = 0;
+};
+
+extern std::vector<NearWindowEntry> Global_NearWindows;     // 0..20, grown by 20
+extern std::vector<CenterWindowEntry> Global_CenterWindows; // 0..20, grown by 20
+
+void Init_ReminderWindows();
+
+struct WindowRequest {
+    std::int32_t ReminderIndex = 0;
+    std::int32_t ID = 0;
+    std::int32_t ID2 = 0;
+    std::int32_t Tick = 0; // millisecond clock now
+};
+
+enum class NearDecision { AlreadyShown, NewWindow, Queued };
+
+struct NearPlacement {
+    NearDecision Decision = NearDecision::AlreadyShown;
+    std::size_t Entry =
+        0; // the entry filled for the reminder; the caller of NewWindow adds WorkForm
+    std::size_t Host = 0; // Queued: the entry whose window takes the reminder
+    std::int32_t X = 0;   // left edge of the window
+};
+
+// Decides for one reminder and brings the table up to date.
+NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
+                               const ToolbarRect& toolbar, const platform::Size& screen);
+// Top edge of a window of this height.
+std::int32_t NearWindow_Top(const ToolbarRect& toolbar, bool alignBottom, std::int32_t height);
+
+// The entry filled for the reminder in the centred window, or -1 when it is there already.
+std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request);
+platform::Point Centered_Place(const platform::Size& screen, const platform::Size& window);

@@ -1,0 +1,230 @@
+#include "toolbar/main_form.h"
+
+#include "controls/icons.h"
+#include "controls/program_end.h"
+#include "controls/timers.h"
+#include "controls/transparency.h"
+#include "platform/clock.h"
+#include "platform/window.h"
+#include "settings/global_settings.h"
+#include "toolbar/mdl_tray.h"
+#include "toolbar/message_strip.h"
+#include "toolbar/toolbar_layout.h"
+
+#include <QCloseEvent>
+#include <QToolTip>
+#include <QWindow>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The most that a window system draws; settings may hold any number.
+constexpr int FarthestPixel = 16000;
+// So much later the window system answers for no place that it was asked for.
+constexpr std::int32_t AnswerTime = 1000; // ms
+constexpr std::size_t MostAsked = 100;
+constexpr TimerName OwnTimers[] = {TimerName::ResizeForm_Timer, TimerName::AutoHideTimer,
+                                   TimerName::TransHandlerTimer};
+
+std::int32_t Within_Reach(std::int32_t twips, int twipsPerPixel) {
+    const std::int32_t limit = Pixels_To_Twips(FarthestPixel, twipsPerPixel);
+    return std::clamp(twips, -limit, limit);
+}
+
+} // namespace
+
+MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActions)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), commands(toolbarCommands),
+      container(std::move(messageActions)) {
+    setWindowTitle(u"Tockly Toolbar"_s);
+    setWindowIcon(Load_Icon(IconName::Program));
+    setMinimumSize(1, 1);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    // The strip is hardly ever the active window, and has tool tips all the same.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    setMouseTracking(true);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    QToolTip::setFont(Small_Font());
+    Build_Buttons();
+    commands.On_Change([this] { Enable_Buttons(); });
+    Enable_Buttons();
+}
+
+MainForm::~MainForm() {
+    commands.On_Change({});
+    if (Global_Timers != nullptr) {
+        for (const TimerName timer : OwnTimers) {
+            Global_Timers->On_Tick(timer, {});
+        }
+    }
+    Tray_RemoveIcon();
+}
+
+void MainForm::Load_Window(const StartPlace& place) {
+    Set_Bounds({place.Left, place.Top, place.Width, PixelsY_To_Twips(ToolbarHeight)});
+    saved = live;
+    if (platform::Windows::Is_Provided() && Global_IsWinXP) {
+        platform::Windows::Get().Set_Shadow(winId(), Global_UseShadows);
+    }
+    if (Global_Timers != nullptr) {
+        Global_Timers->On_Tick(TimerName::ResizeForm_Timer, [this] { ResizeForm_Tick(); });
+        Global_Timers->On_Tick(TimerName::AutoHideTimer, [this] { AutoHideTimer_Tick(); });
+        Global_Timers->On_Tick(TimerName::TransHandlerTimer, [] {
+            Global_Timers->Enable(TimerName::TransHandlerTimer, false);
+            Global_Transparency().TransparencyHandler();
+        });
+    }
+    MouseOver();
+}
+
+void MainForm::MouseOver() {
+    LastMouseOver = platform::Clock::Get().Milliseconds();
+}
+
+void MainForm::Set_Bounds(const TwipsRect& wanted) {
+    auto& desktop = platform::Desktop::Get();
+    const int perX = desktop.TwipsPerPixelX();
+    const int perY = desktop.TwipsPerPixelY();
+    const TwipsRect bounds{Within_Reach(wanted.Left, perX), Within_Reach(wanted.Top, perY),
+                           std::max(Within_Reach(wanted.Width, perX), perX), wanted.Height};
+    if (bounds == live) {
+        return;
+    }
+    const QRect place(Twips_To_Pixels(bounds.Left, perX), Twips_To_Pixels(bounds.Top, perY),
+                      Twips_To_Pixels(bounds.Width, perX), Twips_To_Pixels(bounds.Height, perY));
+    if (asked.size() == MostAsked) {
+        asked.erase(asked.begin());
+    }
+    asked.push_back(place);
+    lastAsked = platform::Clock::Get().Milliseconds();
+    placing = true;
+    setGeometry(place);
+    placing = false;
+    live = bounds;
+    UpdateToolbarRect();
+    // A window that is not shown gets its events later, but its line is asked for now.
+    if (!isVisible() && !IsHidingNow) {
+        Lay_Out();
+    }
+}
+
+// The window manager may move the strip as well. Its answers to what the strip asked for come late:
+// in the middle of a collapse they tell of places that are passed already.
+void MainForm::Take_LiveBounds() {
+    const QRect now = geometry();
+    if (placing || now == QRect(TwipsX_To_Pixels(live.Left), TwipsY_To_Pixels(live.Top),
+                                TwipsX_To_Pixels(live.Width), TwipsY_To_Pixels(live.Height))) {
+        return;
+    }
+    if (platform::Clock::Get().Milliseconds_Since(lastAsked) < AnswerTime &&
+        std::find(asked.begin(), asked.end(), now) != asked.end()) {
+        return;
+    }
+    asked.clear();
+    live = {PixelsX_To_Twips(now.x()), PixelsY_To_Twips(now.y()), PixelsX_To_Twips(now.width()),
+            PixelsY_To_Twips(now.height())};
+    UpdateToolbarRect();
+}
+
+void MainForm::UpdateToolbarRect() {
+    toolbarRect.Left = TwipsX_To_Pixels(live.Left);
+    toolbarRect.Right = TwipsX_To_Pixels(live.Left + live.Width);
+    toolbarRect.Top = TwipsY_To_Pixels(live.Top);
+    toolbarRect.Bottom = TwipsY_To_Pixels(live.Top + live.Height);
+    if (!IsHidingNow && !Is_Collapsed() && isVisible()) {
+        const std::int32_t height = saved.Height;
+        saved = live;
+        saved.Height = height;
+    }
+}
+
+void MainForm::moveEvent(QMoveEvent*) {
+    Take_LiveBounds();
+}
+
+void MainForm::resizeEvent(QResizeEvent*) {
+    Take_LiveBounds();
+    Picture2->setGeometry(rect());
+    if (!IsHidingNow && !Is_Collapsed()) {
+        Lay_Out();
+    }
+}
+
+void MainForm::Move_To(int left, int top) {
+    Set_Bounds({PixelsX_To_Twips(left), PixelsY_To_Twips(top), live.Width, live.Height});
+}
+
+void MainForm::showEvent(QShowEvent*) {
+    standsApart = false;
+    windowHandle()->installEventFilter(this);
+    Stand_Apart();
+}
+
+// A window manager that has not yet noticed the last unmapping forgets what was set since: it is
+// said before the window is mapped, and again once it is to be seen.
+void MainForm::Stand_Apart() {
+    if (platform::Windows::Is_Provided()) {
+        platform::Windows::Get().Leave_TaskBar(winId());
+        platform::Windows::Get().Keep_Place(winId());
+    }
+    Stay_OnTop(Trigger::Now);
+}
+
+// Closing the strip ends the program, by the way that saves.
+void MainForm::closeEvent(QCloseEvent* event) {
+    if (Program_Is_Ending() || !commands.Has(ToolbarCommand::Unload)) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    commands.Run(ToolbarCommand::Unload);
+}
+
+void MainForm::Activate() {
+    AutoHide_ShowProc(true);
+    if (focusWidget() == nullptr) {
+        focusNextChild();
+    }
+    if (auto* button = qobject_cast<wbButton*>(focusWidget())) {
+        button->Mark_Focus();
+    } else {
+        Picture1->Mark_Focus();
+    }
+    raise();
+    activateWindow();
+    if (platform::Windows::Is_Provided()) {
+        platform::Windows::Get().Activate(winId());
+    }
+}
+
+int MainForm::Line_Width() const {
+    return Picture1->width();
+}
+
+int MainForm::Text_Width(const QString& text) const {
+    return MessageText::Width_Of(text);
+}
+
+void MainForm::Put_Text(const QString& text, int width, int left) {
+    Label1->Set_Text(text);
+    Label1->setToolTip(text);
+    Picture1->setAccessibleDescription(text);
+    Label1->setGeometry(left, 0, std::max(width, 0), SmallLineHeight);
+}
+
+void MainForm::Move_Text(int left) {
+    Label1->move(left, 0);
+    Label1->show();
+}
+
+void MainForm::Clear_Line() {
+    Label1->hide();
+    Label1->Set_Text({});
+    Label1->setToolTip({});
+    Picture1->setAccessibleDescription({});
+}

@@ -1,0 +1,190 @@
+#include "controls/program_end.h"
+#include "controls/timers.h"
+#include "controls/transparency.h"
+#include "support/fake_clock.h"
+#include "support/recording_windows.h"
+
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(FadeRules, The_step_grows_with_what_the_updates_cost) {
+    struct Case {
+        const char* name;
+        std::vector<std::int32_t> times;
+        int step;
+    };
+    const Case cases[] = {
+        {"nothing measurable", {0}, 1},
+        {"3 and 2", {3, 2}, 1},
+        {"just 3", {3}, 1},
+        {"6", {6}, 2},
+        {"10 and 2", {10, 2}, 4},
+        {"a machine that hangs", {2147483647, 2147483647}, 255},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Alpha_Step(c.times), c.step) << c.name;
+    }
+}
+
+TEST(FadeRules, A_fade_is_over_at_its_target_or_when_its_time_is_up) {
+    struct Case {
+        FadeDirection direction;
+        std::int16_t alpha;
+        std::int32_t passed; // ms
+        bool isOver;
+    };
+    const Case cases[] = {
+        {FadeDirection::In, 254, 600, false}, {FadeDirection::In, 255, 0, true},
+        {FadeDirection::In, 20, 601, true},   {FadeDirection::Out, 1, 600, false},
+        {FadeDirection::Out, 0, 0, true},     {FadeDirection::Out, 200, 601, true},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(Fade_Is_Over({c.alpha, c.direction}, c.passed), c.isOver) << c.alpha;
+    }
+}
+
+class Transparency : public testing::Test {
+protected:
+    Transparency() { Global_Timers = &timers; }
+    ~Transparency() override { Set_Program_Ending(false); }
+
+    RecordingWindows::State& State_Of(const QWidget& window) {
+        return windows.windows[window.winId()];
+    }
+    // While the loop handles events, once so many ms have passed.
+    void After(int milliseconds, std::function<void()> work) {
+        Poll(clock.Milliseconds() + milliseconds, std::move(work));
+    }
+
+    FakeClock clock;
+    RecordingWindows windows;
+    Timers timers;
+    TransparencyClass fades;
+
+private:
+    void Poll(std::int32_t when, std::function<void()> work) {
+        QTimer::singleShot(0, &poller, [this, when, work = std::move(work)] {
+            if (clock.Milliseconds_Since(when) >= 0) {
+                work();
+            } else {
+                Poll(when, work);
+            }
+        });
+    }
+    QObject poller;
+};
+
+TEST_F(Transparency, A_window_comes_up_faint_gets_stronger_and_ends_without_any_layer) {
+    QWidget window;
+    fades.DoFadeIn(&window);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(State_Of(window).alpha, 1);
+    fades.TransparencyHandler();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(State_Of(window).alpha, std::nullopt);
+    // A round every 3 ms: after 600 ms the end is forced.
+    const auto& alphas = State_Of(window).alphas;
+    ASSERT_EQ(alphas.size(), 202U);
+    EXPECT_EQ(alphas.back(), 202);
+    EXPECT_EQ(fades.Last_Index(), -1);
+}
+
+TEST_F(Transparency, A_window_that_fades_out_turns_round_where_it_stands) {
+    QWidget window;
+    window.show();
+    window.setEnabled(false);
+    fades.DoFadeOut(&window);
+    After(30, [&] {
+        EXPECT_TRUE(fades.IsRunning());
+        EXPECT_TRUE(fades.Is_FadingOut(&window));
+        fades.DoFadeIn(&window);
+        EXPECT_FALSE(fades.Is_FadingOut(&window));
+        EXPECT_EQ(fades.Last_Index(), 0);
+    });
+    After(60, [&] { fades.DoFadeOut(&window); });
+    fades.TransparencyHandler();
+    const auto& alphas = State_Of(window).alphas;
+    EXPECT_EQ(alphas.front(), 254);
+    EXPECT_EQ(alphas[10], 244);
+    EXPECT_EQ(alphas[11], 244); // as it stood when it turned
+    EXPECT_EQ(alphas[12], 245);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(window.isEnabled());
+}
+
+TEST_F(Transparency, A_hundred_and_fifty_windows_fade_at_once_each_to_its_own_end) {
+    std::vector<std::unique_ptr<QWidget>> all;
+    for (int i = 0; i < 150; ++i) {
+        all.push_back(std::make_unique<QWidget>());
+        const bool goesOut = i % 3 == 0;
+        all.back()->setVisible(goesOut);
+        goesOut ? fades.DoFadeOut(all.back().get()) : fades.DoFadeIn(all.back().get());
+    }
+    EXPECT_EQ(fades.Last_Index(), 149);
+    After(100, [&] {
+        all[0].reset(); // destroyed on its way, first and last of the list
+        all[149].reset();
+        fades.DeleteHWNDfromList(all[1]->winId(), Layering::Remove, FadeEnd::KeepForm);
+        EXPECT_EQ(fades.Last_Index(), 148);
+    });
+    fades.TransparencyHandler();
+    for (std::size_t i = 1; i < 149; ++i) {
+        EXPECT_EQ(all[i]->isVisible(), i % 3 != 0) << i;
+        EXPECT_EQ(State_Of(*all[i]).alpha, std::nullopt) << i;
+    }
+}
+
+TEST_F(Transparency, A_dear_update_makes_larger_steps) {
+    struct DearWindow : QWidget {
+        FakeClock& clock;
+        explicit DearWindow(FakeClock& testClock) : clock(testClock) {}
+        void showEvent(QShowEvent*) override { clock.Advance(60); }
+    } dear(clock);
+    QWidget cheap;
+    cheap.show();
+    fades.DoFadeOut(&cheap);
+    fades.DoFadeIn(&dear);
+    fades.TransparencyHandler();
+    EXPECT_EQ(State_Of(dear).alphas[1], 21);
+    EXPECT_EQ(State_Of(cheap).alphas[1], 234);
+}
+
+TEST_F(Transparency, A_form_with_its_own_way_to_hide_takes_it) {
+    struct Menu : QWidget, FadeWorkForm {
+        int hidden = 0;
+        void Hide_Form() override { ++hidden; }
+    } menu;
+    menu.show();
+    fades.DoFadeOut(&menu, &menu);
+    fades.TransparencyHandler();
+    EXPECT_EQ(menu.hidden, 1);
+    EXPECT_TRUE(menu.isVisible());
+}
+
+TEST_F(Transparency, The_timer_starts_one_loop_for_a_list_that_is_not_empty) {
+    fades.Enable_TC_Timer();
+    EXPECT_FALSE(timers.Is_Enabled(TimerName::TransHandlerTimer));
+    QWidget window;
+    fades.DoFadeIn(&window);
+    fades.Enable_TC_Timer();
+    EXPECT_TRUE(timers.Is_Enabled(TimerName::TransHandlerTimer));
+    timers.Enable(TimerName::TransHandlerTimer, false);
+    After(10, [&] {
+        fades.Enable_TC_Timer();
+        EXPECT_FALSE(timers.Is_Enabled(TimerName::TransHandlerTimer));
+        fades.TransparencyHandler(); // returns at once
+        EXPECT_TRUE(fades.IsRunning());
+        EXPECT_EQ(fades.Last_Index(), 0);
+    });
+    After(20, [] { Set_Program_Ending(true); });
+    const std::int32_t start = clock.Milliseconds();
+    fades.TransparencyHandler();
+    EXPECT_LT(clock.Milliseconds_Since(start), 30);
+    EXPECT_FALSE(fades.IsRunning());
+    EXPECT_EQ(fades.Last_Index(), -1);
+}
+
+} // namespace

@@ -1,0 +1,125 @@
+#include "delivery/deliver.h"
+#include "support/fake_files.h"
+#include "window_fixture.h"
+
+#include <QElapsedTimer>
+#include <QSet>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Deliver : public WindowTest {
+protected:
+    Deliver() { files.Replace(sound, "x"); }
+    // The commands of a delivery.
+    QString Play(const QString& path, bool playSound = true) {
+        const std::int32_t index = Add_Reminder(u"text"_s);
+        Reminder(index).rs_PlaySound = playSound;
+        Reminder(index).rs_SoundPath = path;
+        Deliver_Reminder(index);
+        return std::exchange(media.commands, {}).join(u'|').replace(sound, u"F"_s);
+    }
+
+    FakeFiles files;
+    QTemporaryDir folder;
+    QString sound = folder.filePath(u"ding dong.wav"_s);
+};
+
+TEST_F(Deliver, A_sound_is_opened_played_and_ended_by_the_next) {
+    Global_MciCounter = 0;
+    media.shortened = u"S"_s;
+    EXPECT_EQ(Play(u"  "_s + sound + u" "_s), u"OPEN S TYPE MPEGVideo ALIAS a0|"
+                                              "SET 0 TIME FORMAT TMSF|PLAY a0 FROM 0"_s);
+    media.refused << u"mpegvideo"_s << u"SET 0"_s;
+    EXPECT_EQ(Play(sound),
+              u"CLOSE a0|OPEN S TYPE MPEGVideo ALIAS a1|"
+              "OPEN F TYPE waveaudio ALIAS a1|SET 0 TIME FORMAT TMSF|PLAY a1 FROM 0"_s);
+    Global_PlayerClass->CloseAudioFile();
+    media.refused << u"waveaudio"_s;
+    EXPECT_EQ(Play(sound), u"CLOSE a1|OPEN S TYPE MPEGVideo ALIAS a2|"
+                           "OPEN F TYPE waveaudio ALIAS a2"_s);
+    EXPECT_EQ(Play(sound, false), QString()); // nothing was open
+    EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(Deliver, Only_a_reminder_without_a_file_beeps) {
+    const std::int32_t counter = Global_MciCounter;
+    EXPECT_EQ(Play(sound + u"x"_s) + Play(u"   "_s) + Play(QString(), false), QString());
+    EXPECT_EQ(desktop.beeps, 0);
+    EXPECT_EQ(Play(QString()), QString());
+    EXPECT_EQ(desktop.beeps, 1);
+    EXPECT_EQ(Global_MciCounter, counter);
+}
+
+TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
+    struct Case {
+        const char* name;
+        int type;
+        bool minimize;
+        bool onLine, near, centered;
+        int minimised;
+    };
+    const Case cases[] = {{"inside the toolbar", 0, true, true, false, false, 0},
+                          {"beside the toolbar", 1, true, false, true, false, 0},
+                          {"centred", 2, false, false, false, true, 0},
+                          {"centred alone", 2, true, false, false, true, 1},
+                          {"a byte that is no type", 3, true, false, false, false, 0}};
+    for (const Case& row : cases) {
+        Unload_ReminderWindows();
+        Start_Afresh(9, 0, 0);
+        desktop.minimised = 0;
+        const std::int32_t index = Add_Typed(u"text"_s, static_cast<ReminderType>(row.type));
+        Reminder(index).rs_Minimize_Apps = row.minimize;
+        Deliver_Reminder(index);
+        EXPECT_EQ(Any_MessageActive(), row.onLine) << row.name;
+        EXPECT_EQ(Global_NearWindows[0].Used, row.near) << row.name;
+        EXPECT_EQ(Global_CenterWindows[0].Used, row.centered) << row.name;
+        EXPECT_EQ(desktop.minimised, row.minimised) << row.name;
+    }
+    Start_Afresh(9, 0, 0);
+    Reminder(Add_Reminder(u"freed"_s)).rs_PlaySound = true;
+    Global_Reminders[0].Used = false;
+    for (const std::int32_t index : {-1, 0, 1, 51}) {
+        Deliver_Reminder(index);
+        Show_ToolbarMessage(index);
+    }
+    EXPECT_FALSE(Any_MessageActive());
+    EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(Deliver, A_thousand_at_once_are_quick_and_each_is_reached_once) {
+    const ReminderType types[] = {ReminderType::NextToToolbar, ReminderType::Centered};
+    for (const ReminderType type : types) {
+        Unload_ReminderWindows();
+        Start_Afresh(9, 0, 0);
+        for (int number = 0; number < 1000; ++number) {
+            const std::int32_t index = Add_Typed(QString::number(number), type);
+            Reminder(index).rs_PlaySound = true;
+            Reminder(index).rs_SoundPath = sound;
+        }
+        media.commands.clear();
+        QElapsedTimer watch;
+        watch.start();
+        for (int twice = 0; twice < 2; ++twice)
+            for (std::int32_t index = 0; index < 1000; ++index)
+                Deliver_Reminder(index);
+        EXPECT_LT(watch.elapsed(), 1000); // it takes about 20 ms
+        EXPECT_EQ(media.commands.filter(u"PLAY"_s).size(), 2000);
+        EXPECT_EQ(media.commands.filter(u"CLOSE"_s).size(), 1999);
+        EXPECT_EQ(media.commands.size(), 4 * 2000 - 1); // never two open at once
+        QSet<QString> reached;
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            auto* note = qobject_cast<frmImportantRWin*>(window);
+            for (; note != nullptr && !note->Is_Closed(); note->wbButton3_Click()) {
+                ASSERT_FALSE(reached.contains(Text_Of(note)));
+                reached.insert(Text_Of(note));
+            }
+        }
+        EXPECT_EQ(reached.size(), 1000);
+        Global_PlayerClass.reset();
+    }
+}
+
+} // namespace

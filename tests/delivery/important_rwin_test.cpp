@@ -1,0 +1,331 @@
+#include "controls/program_end.h"
+#include "controls/transparency.h"
+#include "core/remind_again.h"
+#include "delivery/message_menu.h"
+#include "delivery/options_menu.h"
+#include "window_fixture.h"
+
+#include <QScrollBar>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct FakeMenu : OptionsMenu {
+    std::function<void(frmImportantRWin&)> pick;
+    std::int32_t reminderIndex = -1;
+    platform::Point place;
+
+    FakeMenu() { Global_OptionsMenu = this; }
+    ~FakeMenu() override { Global_OptionsMenu = nullptr; }
+    void Open_For_Window(frmImportantRWin& caller, std::int32_t index,
+                         platform::Point where) override {
+        reminderIndex = index;
+        place = where;
+        if (pick)
+            pick(caller);
+    }
+};
+
+class ReminderWindow : public WindowTest {
+protected:
+    ReminderWindow() { Init_RA_Reminders(); }
+    frmImportantRWin* Show(std::int32_t index) {
+        Show_NextToToolbar(index);
+        return Global_NearWindows[0].WorkForm;
+    }
+    void Set_Actions(std::int32_t index, int count) {
+        for (int action = 0; action < count; ++action)
+            Reminder(index).SetFuncion(
+                action, {true, FunctionType::OpenPage, static_cast<std::uint8_t>(action),
+                         u"http://page%1"_s.arg(action), u"Page %1"_s.arg(action)});
+    }
+    // One window on a screen with room for no other; the first is on view, the others wait.
+    frmImportantRWin* Show_Queue(int count, ReminderType type) {
+        desktop.screen = {300, 600};
+        toolbar.bounds = {0, 0, 20, 20};
+        for (int number = 0; number < count; ++number)
+            Deliver_Reminder(Add_Typed(QString::number(number), type));
+        return type == ReminderType::Centered ? Centered_Window() : Near_Window(0);
+    }
+};
+
+TEST_F(ReminderWindow, It_is_as_high_as_its_actions_and_its_buttons_stand_in_the_last_row) {
+    const std::pair<int, int> cases[] = {{0, 78}, {1, 78}, {2, 99}, {3, 120}, {4, 141}};
+    for (const auto& [actions, height] : cases) {
+        Unload_ReminderWindows();
+        Start_Afresh(9, 0, 0);
+        const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
+        Set_Actions(index, actions);
+        const frmImportantRWin* window = Show(index);
+        EXPECT_EQ(window->geometry(), QRect(678, 0, 253, height));
+        const std::vector<wbButton*> buttons = Buttons_Of(window);
+        ASSERT_EQ(buttons.size(), std::size_t(actions) + 2);
+        for (int row = 0; row < actions; ++row)
+            EXPECT_EQ(buttons[std::size_t(row)]->geometry(), QRect(4, 56 + 21 * row, 158, 17));
+        EXPECT_EQ(buttons.rbegin()[1]->geometry(), QRect(168, height - 22, 58, 17));
+        EXPECT_EQ(buttons.rbegin()[0]->geometry(), QRect(232, height - 22, 15, 17));
+    }
+}
+
+TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) {
+    const QString longCaption = u"Read what the whole neighbourhood has written"_s;
+    const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
+    Reminder(index).SetFuncion(1, {true, FunctionType::OpenFile, 0, u"/file"_s, longCaption});
+    Reminder(index).SetFuncion(2, {false, FunctionType::OpenFile, 0, u"/off"_s, u"off"_s});
+    Reminder(index).SetFuncion(3, {true, static_cast<FunctionType>(9), 0, u"/odd"_s, QString()});
+    const std::vector<wbButton*> buttons = Buttons_Of(Show(index));
+    ASSERT_EQ(buttons.size(), 4U);
+    EXPECT_EQ(buttons[0]->width(), 160);
+    EXPECT_TRUE(buttons[0]->Caption().endsWith(u'\u2026'));
+    EXPECT_EQ(buttons[0]->toolTip(), longCaption);
+    EXPECT_EQ(buttons[0]->accessibleName(), longCaption);
+    EXPECT_EQ(buttons[1]->accessibleName(), u"Open /odd"_s);
+    EXPECT_EQ(buttons[1]->width(), 160);
+}
+
+TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
+    const std::tuple<const char*, QString, bool> cases[] = {
+        {"three lines of 13 pixels", u"A\r\nB\r\nC"_s, false},
+        {"four lines", u"A\r\nB\r\nC\r\nD"_s, true},
+        {"nothing", QString(), false},
+        {"one word of many lines", QString(300, u'W'), true},
+        {"short after long", u"short"_s, false},
+        {"a megabyte", QString(1000000, u'x'), true}};
+    for (const auto& row : cases)
+        Add_Typed(std::get<1>(row), ReminderType::NextToToolbar);
+    frmImportantRWin* window = Show(0);
+    for (std::int32_t index = 0; index < 6; ++index) {
+        window->UpdateWindow(index); // one window shows them one after the other
+        const auto* text = window->findChild<QPlainTextEdit*>();
+        EXPECT_EQ(text->verticalScrollBar()->isVisible(), std::get<2>(cases[index]))
+            << std::get<0>(cases[index]);
+        EXPECT_EQ(text->toPlainText().size(),
+                  std::get<1>(cases[index]).count(u'\r') * -1 + std::get<1>(cases[index]).size());
+    }
+}
+
+TEST_F(ReminderWindow, It_comes_above_the_others_without_the_focus_and_can_be_left_by_keyboard) {
+    frmImportantRWin* window = Show(Add_Typed(u"Tea is ready"_s, ReminderType::NextToToolbar));
+    const RecordingWindows::State& state = windows.windows[window->winId()];
+    EXPECT_TRUE(state.topmost && state.leftTaskBar && window->isVisible());
+    EXPECT_EQ(state.activations, 0);
+    EXPECT_TRUE(window->testAttribute(Qt::WA_ShowWithoutActivating));
+    EXPECT_EQ(window->accessibleDescription(), u"Tea is ready"_s);
+    EXPECT_EQ(window->focusWidget(), Last_Button(window));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), window->findChild<QPlainTextEdit*>());
+    QTest::keyClick(window->focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(window->isHidden() && window->Is_Closed());
+    EXPECT_FALSE(Global_NearWindows[0].Used);
+    EXPECT_EQ(Global_PendingUnloads.size(), 1U);
+}
+
+TEST_F(ReminderWindow, Actions_open_their_targets_and_a_failure_names_them) {
+    using platform::ShowState;
+    const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
+    Set_Actions(index, 3);
+    Reminder(index).SetFuncion(3, {true, FunctionType::OpenFile, 0, QString(), u"nothing"_s});
+    frmImportantRWin* window = Show(index);
+    for (wbButton* button : Buttons_Of(window))
+        if (button->Caption() != u" X"_s)
+            Click(button);
+    EXPECT_THAT(shell.calls,
+                testing::ElementsAre(
+                    RecordingShell::Call{u"http://page0"_s, {}, ShowState::Normal, true},
+                    RecordingShell::Call{u"http://page1"_s, {}, ShowState::Minimized, true},
+                    RecordingShell::Call{u"http://page2"_s, {}, ShowState::Maximized, true}));
+    shell.succeeds = false;
+    dialogs.Expect_Message(u"http://page1"_s);
+    QTest::keyClick(Buttons_Of(window)[1], Qt::Key_Return);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ReminderWindow, Those_that_wait_come_in_turn_and_deleted_ones_are_passed_over) {
+    struct Case {
+        const char* name;
+        std::vector<std::int32_t> deleted; // slots, last first
+        std::vector<std::string> shown;    // text and caption after each click; "" = closed
+    };
+    const Case cases[] = {
+        {"all there", {}, {"1 >", "2 >", "3 X", ""}},
+        {"one in the middle", {2}, {"1 >", "3 X", ""}},
+        {"the first two that wait", {2, 1}, {"3 X", ""}},
+        {"the last: the old text stays once more", {3}, {"1 >", "2 >", "2 X", ""}},
+        {"all that wait", {3, 2, 1}, {"0 X", ""}},
+        {"the one on view", {0}, {"1 >", "2 >", "3 X", ""}},
+    };
+    for (const ReminderType type : {ReminderType::NextToToolbar, ReminderType::Centered}) {
+        for (const Case& row : cases) {
+            SCOPED_TRACE(row.name);
+            Unload_ReminderWindows();
+            Start_Afresh(9, 0, 0);
+            frmImportantRWin* window = Show_Queue(4, type);
+            ASSERT_EQ(window->PendingCount(), 3);
+            EXPECT_EQ(Last_Button(window)->Caption(), u" >"_s);
+            for (const std::int32_t slot : row.deleted)
+                Delete_ReminderSlot(slot);
+            for (const std::string& shown : row.shown) {
+                Click(Last_Button(window));
+                EXPECT_EQ(window->Is_Closed(), shown.empty());
+                if (!shown.empty()) {
+                    EXPECT_EQ((Text_Of(window) + Last_Button(window)->Caption()).toStdString(),
+                              shown);
+                }
+            }
+            for (std::size_t entry = 0; entry < 21; ++entry)
+                EXPECT_FALSE(Global_NearWindows[entry].Used || Global_CenterWindows[entry].Used);
+        }
+    }
+}
+
+TEST_F(ReminderWindow, A_window_at_the_bottom_grows_upward_with_the_next_reminder) {
+    desktop.screen = {300, 600};
+    toolbar.bounds = {0, 580, 20, 600};
+    for (int number = 0; number < 2; ++number) {
+        const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
+        Set_Actions(index, number * 4);
+        Deliver_Reminder(index);
+    }
+    EXPECT_EQ(Near_Window(0)->geometry(), QRect(20, 522, 253, 78));
+    Near_Window(0)->wbButton3_Click();
+    EXPECT_EQ(Near_Window(1)->geometry(), QRect(20, 459, 253, 141));
+    EXPECT_EQ(Global_NearWindows[1].Waiting, 0);
+    EXPECT_FALSE(Global_NearWindows[1].IsQueued);
+}
+
+TEST_F(ReminderWindow,
+       A_closed_one_makes_room_at_once_and_a_reminder_that_fires_again_comes_again) {
+    const std::int32_t index = Add_Typed(u"again"_s, ReminderType::Centered);
+    Deliver_Reminder(index);
+    Deliver_Reminder(index);
+    frmImportantRWin* first = Centered_Window();
+    EXPECT_EQ(first->PendingCount(), 0);
+    EXPECT_EQ(first->pos(), QPoint(385, 345)); // (1024 - 253) / 2 and (768 - 78) / 2
+    first->close();
+    Deliver_Reminder(index); // while the first is still there, about to be released
+    ASSERT_NE(Centered_Window(), nullptr);
+    EXPECT_NE(Centered_Window(), first);
+    first->wbButton3_Click();
+    first->wbButton2_Click();
+    EXPECT_TRUE(Global_CenterWindows[0].Used);
+}
+
+TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
+    Global_IsWinXP = Global_UseTransparency = true;
+    timers.Start_FirstTimers();
+    Init_ReminderWindows();
+    for (int number = 0; number < 2; ++number)
+        Deliver_Reminder(Add_Typed(QString::number(number), ReminderType::NextToToolbar));
+    Deliver_Reminder(Add_Typed(u"2"_s, ReminderType::Centered));
+    EXPECT_TRUE(timers.Is_Enabled(TimerName::TransHandlerTimer));
+    EXPECT_TRUE(Near_Window(0)->isVisible() && Centered_Window()->isVisible());
+    const platform::WindowId closing = Near_Window(0)->winId();
+    const platform::WindowId staying = Near_Window(1)->winId();
+    EXPECT_EQ(windows.windows[staying].alpha, 1);
+    QTimer::singleShot(0, [this] {
+        EXPECT_TRUE(Global_Transparency().IsRunning());
+        QTest::keyClick(Near_Window(0), Qt::Key_Escape);
+        Unload_PendingForms();
+        delete Centered_Window();
+        Deliver_Reminder(0); // fires again: a new window in the place of the old one
+    });
+    Global_Transparency().TransparencyHandler();
+    EXPECT_EQ(Global_Transparency().Last_Index(), -1);
+    EXPECT_FALSE(windows.windows[closing].alpha.has_value());
+    EXPECT_FALSE(windows.windows[staying].alpha.has_value());
+    EXPECT_TRUE(Near_Window(0)->isVisible() && Near_Window(1)->isVisible());
+    EXPECT_EQ(Near_Window(0)->x(), 678);
+    Release_Transparency();
+}
+
+TEST_F(ReminderWindow, At_the_end_of_the_program_its_buttons_do_nothing_more) {
+    frmImportantRWin* window = Show_Queue(2, ReminderType::NextToToolbar);
+    Set_Program_Ending(true);
+    for (wbButton* button : Buttons_Of(window))
+        Click(button);
+    window->close();
+    Set_Program_Ending(false);
+    EXPECT_EQ(window->PendingCount(), 1);
+    EXPECT_TRUE(window->isVisible());
+    Unload_ReminderWindows();
+    EXPECT_FALSE(Global_NearWindows[0].Used);
+}
+
+TEST_F(ReminderWindow, The_menu_sees_the_reminder_and_may_take_the_window_away) {
+    const std::int32_t index = Add_Typed(u"menu"_s, ReminderType::NextToToolbar);
+    frmImportantRWin* window = Show(index);
+    wbButton* options = Buttons_Of(window)[0];
+    Click(options); // nobody has a menu yet
+    FakeMenu menu;
+    Click(options);
+    EXPECT_EQ(menu.reminderIndex, index);
+    EXPECT_EQ(menu.place, (platform::Point{678 + 168, 56 + 17}));
+    menu.pick = [](frmImportantRWin& caller) { delete &caller; };
+    Click(options);
+    EXPECT_FALSE(Global_NearWindows[0].Used);
+    window = Show(index);
+    Delete_ReminderSlot(index);
+    dialogs.Expect_Message(u"The reminder shown in this window as deleted."_s);
+    Click(Buttons_Of(window)[0]);
+    EXPECT_EQ(dialogs.shown.back().style, platform::BoxStyle::Exclamation);
+}
+
+TEST_F(ReminderWindow, Its_menu_changes_the_reminder_and_goes_on_to_the_next) {
+    frmImportantRWin* window = Show_Queue(4, ReminderType::NextToToolbar);
+    Reminder(2).rs_Enabled = true;
+    Window_RemindAgain(*window, 1);
+    EXPECT_EQ(Global_RA_Reminders[0], (RA_Entry{9558, 550, 0, 7})); // 10 minutes from 09:00
+    Window_DisableForToday(*window);
+    EXPECT_EQ(Reminder(1).rs_DisabledForToday, 9558);
+    Window_Disable(*window);
+    EXPECT_FALSE(Reminder(2).rs_Enabled);
+    EXPECT_EQ(Text_Of(window), u"3"_s);
+    Delete_ReminderSlot(3);
+    using Action = void (*)(frmImportantRWin&);
+    for (const Action action : {Action(Window_Disable), Action(Window_DisableForToday),
+                                Action([](frmImportantRWin& w) { Window_RemindAgain(w, 0); })}) {
+        dialogs.Expect_Message(u"Can't find selected reminder"_s);
+        action(*window);
+    }
+    EXPECT_EQ(Global_RA_Last, 0);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ReminderWindow, Fifteen_at_once_stand_where_the_rule_puts_them) {
+    struct Case {
+        platform::Size screen;
+        ToolbarRect toolbar;
+        std::vector<QPoint> places;
+    };
+    // 253 x 78 each, in columns of 254; those that reach upward end with the toolbar.
+    const Case cases[] = {{{1024, 768}, {345, 0, 678, 20}, {{678, 0}, {91, 0}}},
+                          {{1024, 768}, {345, 748, 678, 768}, {{678, 690}, {91, 690}}},
+                          {{1024, 768}, {0, 0, 333, 20}, {{333, 0}, {587, 0}}},
+                          {{1024, 768}, {691, 0, 1024, 20}, {{437, 0}, {183, 0}}},
+                          {{1024, 768}, {345, 374, 678, 394}, {{678, 316}, {91, 316}}},
+                          {{800, 600}, {233, 0, 566, 20}, {{566, 0}}},
+                          {{800, 600}, {233, 580, 566, 600}, {{566, 522}}},
+                          {{800, 600}, {0, 0, 333, 20}, {{333, 0}}},
+                          {{800, 600}, {467, 0, 800, 20}, {{213, 0}}}};
+    for (const Case& row : cases) {
+        Unload_ReminderWindows();
+        Start_Afresh(9, 0, 0);
+        desktop.screen = row.screen;
+        toolbar.bounds = row.toolbar;
+        for (int number = 0; number < 15; ++number)
+            Deliver_Reminder(Add_Typed(QString::number(number), ReminderType::NextToToolbar));
+        std::vector<QPoint> places;
+        int waiting = 0;
+        for (std::size_t entry = 0; entry < row.places.size(); ++entry) {
+            ASSERT_NE(Near_Window(entry), nullptr);
+            places.push_back(Near_Window(entry)->pos());
+            waiting += Near_Window(entry)->PendingCount();
+        }
+        EXPECT_EQ(places, row.places);
+        EXPECT_EQ(waiting + int(places.size()), 15);
+    }
+}
+
+} // namespace

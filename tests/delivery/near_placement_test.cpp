@@ -1,0 +1,124 @@
+#include "delivery/near_placement.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Case {
+    const char* name;
+    platform::Size screen;
+    ToolbarRect toolbar;
+    std::vector<int> lefts; // of the windows, in the order in which they come
+    bool upward;
+};
+
+// Worked out by hand: windows are 254 wide and may pass the screen's edge by 20.
+const Case Cases[] = {
+    {"top: right, left, full", {1024, 768}, {345, 0, 678, 20}, {678, 91}, false},
+    {"20 over at the right, 21 at the left", {800, 600}, {233, 0, 566, 20}, {566}, false},
+    {"20 over on both sides", {801, 600}, {234, 0, 567, 20}, {567, -20}, false},
+    {"left corner", {1024, 768}, {0, 0, 333, 20}, {333, 587}, false},
+    {"right corner", {1024, 768}, {691, 0, 1024, 20}, {437, 183}, false},
+    {"right corner of a small screen", {800, 600}, {467, 0, 800, 20}, {213}, false},
+    {"bottom", {1024, 768}, {345, 748, 678, 768}, {678, 91}, true},
+    {"as much free above as below", {1024, 768}, {345, 374, 678, 394}, {678, 91}, true},
+    {"a pixel above that", {1024, 768}, {345, 373, 678, 393}, {678, 91}, false},
+    {"sides take turns while they can",
+     {1920, 1080},
+     {300, 0, 633, 20},
+     {633, 46, 887, 1141, 1395, 1649},
+     false}};
+
+NearPlacement Place(std::vector<NearWindowEntry>& table, int number, const Case& row) {
+    return Place_NearWindow(table, {number, number, 7, 1000 + number}, row.toolbar, row.screen);
+}
+
+// Which of the used entries are edges, as "01".
+std::string Edges(const std::vector<NearWindowEntry>& table) {
+    std::string edges;
+    for (const NearWindowEntry& entry : table)
+        if (entry.Used)
+            edges += entry.IsEdgeWindow ? '1' : '0';
+    return edges;
+}
+
+TEST(NearPlacement, Fifteen_reminders_fill_the_sides_and_then_wait_in_turn) {
+    for (const Case& row : Cases) {
+        SCOPED_TRACE(row.name);
+        const std::size_t windows = row.lefts.size();
+        std::vector<NearWindowEntry> table(21);
+        for (std::size_t number = 0; number < 15; ++number) {
+            const NearPlacement placement = Place(table, static_cast<int>(number), row);
+            const NearWindowEntry& entry = table[number];
+            ASSERT_EQ(placement.Entry, number);
+            EXPECT_EQ(entry.AlignBottom, row.upward);
+            ASSERT_EQ(entry.IsQueued, number >= windows);
+            if (!entry.IsQueued) {
+                EXPECT_EQ(placement.Decision, NearDecision::NewWindow);
+                EXPECT_EQ(placement.X, row.lefts[number]);
+                EXPECT_EQ(Edges(table), std::string(number, '0') + '1');
+                continue;
+            }
+            EXPECT_EQ(placement.Decision, NearDecision::Queued);
+            EXPECT_EQ(placement.Host, number % windows); // each window takes one in turn
+            EXPECT_EQ(table[placement.Host].Waiting, static_cast<int>(number / windows));
+            EXPECT_EQ(entry.Column, table[placement.Host].Column);
+            EXPECT_EQ(Edges(table),
+                      std::string(windows, '0') + std::string(number - windows + 1, '1'));
+        }
+        EXPECT_EQ(Place(table, 0, row).Decision, NearDecision::AlreadyShown);
+        EXPECT_EQ(Place(table, 14, row).Decision, NearDecision::AlreadyShown);
+    }
+}
+
+TEST(NearPlacement, Windows_that_closed_leave_their_place_to_the_next) {
+    Case row = Cases[9];
+    std::vector<NearWindowEntry> table(21);
+    for (int number = 0; number < 4; ++number)
+        Place(table, number, row); // 633, 46, 887, and the edge at 1141
+    table[1].Used = false;
+    EXPECT_EQ(Place(table, 4, row).X, 46); // now the edge
+    table[3].Used = false;
+    EXPECT_EQ(Place(table, 5, row).X, 1141); // behind 887
+    table[3].Used = false;
+    row.toolbar = {300, 1060, 633, 1080}; // without an edge it begins beside the toolbar again
+    const NearPlacement placement = Place(table, 6, row);
+    EXPECT_EQ(placement.X, 633);
+    EXPECT_FALSE(table[placement.Entry].AlignBottom); // as the others stand
+}
+
+TEST(NearPlacement, A_full_screen_prefers_the_empty_then_the_fewest_then_the_oldest_window) {
+    const std::tuple<const char*, std::array<int, 3>, std::array<int, 3>, std::size_t> rows[] = {
+        {"the first empty one, not the oldest", {2, 0, 0}, {10, 30, 20}, 1},
+        {"the fewest", {3, 2, 4}, {1, 9, 2}, 1},
+        {"the oldest of equal ones", {2, 2, 2}, {20, 30, 10}, 2},
+        {"the lower number of the clock, which may be negative", {1, 1, 1}, {5, -5, 0}, 1}};
+    for (const auto& [name, waiting, ticks, host] : rows) {
+        std::vector<NearWindowEntry> table(21);
+        for (int number = 0; number < 3; ++number)
+            Place(table, number, Cases[9]);
+        for (std::size_t i = 0; i < 3; ++i) {
+            table[i].Waiting = waiting[i];
+            table[i].Tick = ticks[i];
+        }
+        const NearPlacement placement = Place(table, 9, Cases[1]); // the screen got smaller
+        EXPECT_EQ(placement.Decision, NearDecision::Queued) << name;
+        EXPECT_EQ(placement.Host, host) << name;
+    }
+}
+
+TEST(NearPlacement, The_tables_grow_and_the_centred_window_takes_a_reminder_once) {
+    std::vector<NearWindowEntry> nearTable(21);
+    std::vector<CenterWindowEntry> centerTable(21);
+    for (int number = 0; number < 22; ++number) {
+        EXPECT_EQ(Place(nearTable, number, Cases[0]).Entry, static_cast<std::size_t>(number));
+        EXPECT_EQ(Take_CenterEntry(centerTable, {number, number, 7, 0}), number);
+    }
+    EXPECT_EQ(nearTable.size() + centerTable.size(), 41U + 41U);
+    EXPECT_EQ(Take_CenterEntry(centerTable, {90, 4, 7, 0}), -1);
+    EXPECT_EQ(NearWindow_Top({0, 748, 333, 768}, true, 77), 691);
+    EXPECT_EQ(NearWindow_Top({0, 30, 333, 50}, false, 77), 30);
+    EXPECT_EQ(Centered_Place({1024, 768}, {253, 77}), (platform::Point{385, 345}));
+}
+
+} // namespace

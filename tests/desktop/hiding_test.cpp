@@ -1,0 +1,150 @@
+// The toolbar out of the way and back, on a real X desktop.
+#include "desktop/program_fixture.h"
+#include "desktop/records.h"
+
+#include <csignal>
+
+namespace {
+
+const QString User_Values = u"HKEY_CURRENT_USER.reg"_s;
+const QRect Full((1024 - 333) / 2, 0, 333, 20);
+
+class Hiding : public Program {
+protected:
+    void SetUp() override {
+        Program::SetUp();
+        ASSERT_TRUE(Write_File(Reminders(), Reminder_File({})));
+        desktop.XDo({u"mousemove"_s, u"512"_s, u"500"_s});
+    }
+    bool Stands_At(const QRect& place) const {
+        return Wait_Until([&] { return desktop.Geometry(Strip_Window()) == place; }, 8000);
+    }
+    // keys: held while the close button is clicked.
+    void Click_Close(const QString& key = {}) {
+        QStringList steps{u"mousemove"_s, QString::number(Full.right() - 8), u"6"_s};
+        if (!key.isEmpty()) {
+            steps += {u"keydown"_s, key};
+        }
+        steps += {u"click"_s, u"1"_s};
+        if (!key.isEmpty()) {
+            steps += {u"keyup"_s, key};
+        }
+        desktop.XDo(steps + QStringList{u"mousemove"_s, u"512"_s, u"500"_s});
+    }
+    // Without a tray the strip collapses instead: as long as the panel has not brought its tray up.
+    bool Hide_Completely() {
+        return Wait_Until([&] {
+            Click_Close(u"shift"_s);
+            if (Wait_Until([&] { return Count(Strip) == 0; }, 1500)) {
+                return true;
+            }
+            desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+            Stands_At(Full);
+            return false;
+        });
+    }
+    void Launch_Again() {
+        Tockly second(desktop, Home());
+        second.Start();
+        EXPECT_EQ(second.Wait_For_End(), 0);
+    }
+    void Expect_States() {
+        const QString state = desktop.Property(Strip_Window(), u"_NET_WM_STATE"_s);
+        EXPECT_TRUE(state.contains(u"_ABOVE"_s) && state.contains(u"_SKIP_TASKBAR"_s) &&
+                    state.contains(u"_SKIP_PAGER"_s))
+            << qPrintable(state);
+    }
+};
+
+TEST_F(Hiding, A_Click_Collapses_It_And_A_Click_On_The_Rest_Brings_It_Back) {
+    Tockly tockly(desktop, Home());
+    tockly.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Click_Close();
+    EXPECT_TRUE(Stands_At({Full.x(), 0, 333, 8}));
+    desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+    EXPECT_TRUE(Stands_At(Full));
+    Expect_States();
+}
+
+TEST_F(Hiding, Hidden_In_The_Tray_A_Second_Launch_Brings_It_Back_And_The_End_Keeps_Its_Place) {
+    {
+        Tockly tockly(desktop, Home());
+        tockly.Start();
+        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        for (int round = 0; round < 2; ++round) {
+            ASSERT_TRUE(Hide_Completely());
+            Launch_Again();
+            ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+            EXPECT_TRUE(Stands_At(Full));
+            Expect_States();
+        }
+        ASSERT_TRUE(Hide_Completely());
+        tockly.Signal(SIGTERM);
+        EXPECT_EQ(tockly.Wait_For_End(), 0);
+    }
+    Tockly again(desktop, Home());
+    again.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    EXPECT_TRUE(Stands_At(Full));
+}
+
+TEST_F(Hiding, It_Hides_By_Itself_When_The_Mouse_Has_Left_It) {
+    ASSERT_TRUE(Write_File(Home() + u'/' + User_Values,
+                           "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
+                           "\"Global_Autohide_Enabled\"=dword:ffffffff\r\n"
+                           "\"Global_Autohide_WaitTime\"=dword:000007d0\r\n"
+                           "\"Global_Autohide_SelectedHideMode\"=dword:ffffffff\r\n"
+                           "\"Global_CurID\"=dword:00000001\r\n"));
+    Tockly tockly(desktop, Home());
+    desktop.XDo({u"mousemove"_s, u"600"_s, u"10"_s});
+    tockly.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    EXPECT_FALSE(Wait_Until([&] { return desktop.Geometry(Strip_Window()).height() < 20; }, 4500))
+        << "the mouse rests on it";
+    desktop.XDo({u"mousemove"_s, u"600"_s, u"300"_s});
+    EXPECT_TRUE(Stands_At({Full.x(), 0, 333, 8}));
+}
+
+TEST_F(Hiding, The_End_In_A_Collapse_Or_A_Fade_Keeps_The_Whole_Toolbar) {
+    for (const QString& key : {u""_s, u"shift"_s}) {
+        SCOPED_TRACE(qPrintable(key));
+        Tockly tockly(desktop, Home());
+        tockly.Start();
+        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        const QString before = desktop.Property(Strip_Window(), u"_NET_WM_WINDOW_OPACITY"_s);
+        Click_Close(key);
+        EXPECT_TRUE(Wait_Until([&] {
+            return desktop.Geometry(Strip_Window()).height() < 20 ||
+                   desktop.Property(Strip_Window(), u"_NET_WM_WINDOW_OPACITY"_s) != before;
+        }));
+        tockly.Signal(SIGTERM);
+        EXPECT_EQ(tockly.Wait_For_End(), 0);
+        EXPECT_EQ(Registry_Value(Home(), User_Values, u"Global_Config_MainForm_Width"_s),
+                  u"dword:00001383"_s);
+        EXPECT_EQ(Reminder_Count(Reminders()), 0);
+    }
+}
+
+TEST_F(Hiding, A_Storm_Of_Clicks_Leaves_A_Toolbar_That_Answers) {
+    Tockly tockly(desktop, Home());
+    tockly.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    for (int i = 0; i < 12; ++i) {
+        Click_Close(i % 3 == 0 ? u"shift"_s : QString());
+        if (i % 4 == 3) {
+            Launch_Again();
+        }
+    }
+    EXPECT_TRUE(Wait_Until([&] {
+        Launch_Again();
+        if (desktop.Geometry(Strip_Window()).height() == 8) {
+            desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+        }
+        return desktop.Geometry(Strip_Window()) == Full;
+    }));
+    Click_Close(u"ctrl"_s);
+    EXPECT_EQ(tockly.Wait_For_End(), 0) << "Ctrl and a click end it";
+}
+
+} // namespace

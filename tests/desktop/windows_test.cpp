@@ -1,0 +1,87 @@
+// Reminder windows on a real X desktop.
+#include "desktop/program_fixture.h"
+#include "desktop/records.h"
+
+#include <csignal>
+
+namespace {
+
+const QString Note = u"Reminder"_s;
+
+class Windows : public Program {
+protected:
+    static std::vector<TestReminder> Reminders_Of_Type(std::uint8_t type, int count) {
+        std::vector<TestReminder> all;
+        for (int id = 0; id < count; ++id) {
+            all.push_back({.id = id, .type = type, .text = "Number " + QByteArray::number(id)});
+        }
+        return all;
+    }
+    void Press_Escape(const QString& window) {
+        desktop.XDo({u"windowactivate"_s, u"--sync"_s, window});
+        desktop.XDo({u"key"_s, u"Escape"_s});
+    }
+};
+
+TEST_F(Windows, Fifteen_At_Once_Stand_Beside_The_Toolbar_And_Are_Reached_One_After_The_Other) {
+    ASSERT_TRUE(Write_File(Reminders(), Reminder_File(Reminders_Of_Type(1, 15))));
+    Tockly tockly(desktop, Home());
+    tockly.Start();
+    // 345 pixels are free on each side: one window of 254 with the 20 that may be cut.
+    ASSERT_TRUE(Wait_Until([&] { return Count(Note) == 2; }));
+    QList<int> left;
+    for (const QString& window : desktop.Visible_Windows(Note)) {
+        const QRect place = desktop.Geometry(window);
+        EXPECT_EQ(place.y(), 0);
+        EXPECT_GE(place.x(), -20);
+        EXPECT_LE(place.right(), 1024 + 20);
+        left.append(place.x());
+    }
+    std::sort(left.begin(), left.end());
+    EXPECT_EQ(left, (QList<int>{345 - 254, 345 + 333}));
+
+    int closed = 0;
+    while (Count(Note) > 0 && closed < 20) {
+        const QStringList before = desktop.Visible_Windows(Note);
+        Press_Escape(before.first());
+        ++closed;
+        if (closed >= 14) {
+            EXPECT_TRUE(Wait_Until([&] { return Count(Note) == 15 - closed; }));
+        }
+    }
+    EXPECT_EQ(closed, 15);
+    EXPECT_TRUE(tockly.Is_Running()) << "closing windows never ends the program";
+    tockly.Signal(SIGTERM);
+    EXPECT_EQ(tockly.Wait_For_End(), 0);
+}
+
+TEST_F(Windows, A_Centred_One_Stands_At_The_Centre_And_Leaves_The_Focus_Where_It_Is) {
+    ASSERT_TRUE(Write_File(Reminders(), Reminder_File(Reminders_Of_Type(2, 1))));
+    QProcess other;
+    other.setProcessEnvironment(desktop.Environment());
+    other.setStandardOutputFile(QProcess::nullDevice());
+    other.start(u"xev"_s, {u"-name"_s, u"Other"_s});
+    ASSERT_TRUE(desktop.Wait_For_Window(u"Other"_s));
+    const QString otherWindow = desktop.Visible_Windows(u"Other"_s).first();
+    desktop.XDo({u"windowactivate"_s, u"--sync"_s, otherWindow});
+
+    Tockly tockly(desktop, Home());
+    tockly.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Note));
+    const QRect place = desktop.Geometry(desktop.Visible_Windows(Note).first());
+    EXPECT_LE(std::abs(place.center().x() - 512), 1);
+    EXPECT_LE(std::abs(place.center().y() - 384), 1);
+    EXPECT_EQ(desktop.XDo({u"getactivewindow"_s}), otherWindow);
+    const QString state =
+        desktop.Property(desktop.Visible_Windows(Note).first(), u"_NET_WM_STATE"_s);
+    EXPECT_TRUE(state.contains(u"_ABOVE"_s) && state.contains(u"_SKIP_TASKBAR"_s))
+        << qPrintable(state);
+    // Open at the end, it holds nothing up.
+    tockly.Signal(SIGTERM);
+    EXPECT_EQ(tockly.Wait_For_End(), 0);
+    EXPECT_EQ(Reminder_Count(Reminders()), 1);
+    other.kill();
+    other.waitForFinished();
+}
+
+} // namespace

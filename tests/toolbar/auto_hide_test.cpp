@@ -1,0 +1,340 @@
+// The strip that gets out of the way, and comes back.
+#include "toolbar/main_form_fixture.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+class AutoHideTest : public MainFormTest {
+protected:
+    AutoHideTest() {
+        form.Connect_Hiding({[this] { done << u"complete hide"_s; }, [this] { return linksMenu; }});
+        timers.Start_FirstTimers();
+    }
+
+    // Runs the work while somebody handles events, once so many ms of the clock have passed.
+    void After(int milliseconds, std::function<void()> work) {
+        Poll(clock.Milliseconds() + milliseconds, std::move(work));
+    }
+    // Handles events until all fades are over.
+    void Let_Fade() {
+        timers.Tick(TimerName::TransHandlerTimer);
+        EXPECT_FALSE(Global_Transparency().IsRunning());
+    }
+    void Expect_Shown(const QRect& place) {
+        EXPECT_TRUE(form.Toolbar_Visible());
+        EXPECT_TRUE(form.isEnabled());
+        EXPECT_FALSE(form.Picture2->isVisible());
+        EXPECT_FALSE(tray.icon);
+        EXPECT_EQ(Place(), place);
+        EXPECT_EQ(form.Line_Width(), place.width() - 221);
+        EXPECT_TRUE(timers.Is_Enabled(TimerName::AutoHideTimer));
+    }
+
+    static constexpr QRect Home{100, 50, 333, 20};
+    bool linksMenu = false;
+
+private:
+    void Poll(std::int32_t when, std::function<void()> work) {
+        QTimer::singleShot(0, &form, [this, when, work = std::move(work)] {
+            if (clock.Milliseconds_Since(when) >= 0) {
+                work();
+            } else {
+                Poll(when, work);
+            }
+        });
+    }
+};
+
+TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brings_the_strip_back) {
+    struct Case {
+        const char* name;
+        HideMode mode;
+        QRect rest;
+        int longest; // ms
+    };
+    const Case cases[] = {
+        {"to the top", HideMode::Top, {100, 50, 333, 8}, 330},
+        {"to the left", HideMode::Left, {100, 50, 10, 20}, 1030},
+        {"to the right", HideMode::Right, {423, 50, 10, 20}, 1030},
+        {"to the bottom", HideMode::Bottom, {100, 62, 333, 8}, 330},
+    };
+    for (const bool isSlow : {false, true}) {
+        for (const Case& c : cases) {
+            SCOPED_TRACE(c.name);
+            const std::int32_t start = clock.Milliseconds();
+            if (isSlow) {
+                After(35, [this] { clock.Advance(2000); });
+            }
+            After(45, [this] {
+                EXPECT_TRUE(form.IsHiding());
+                EXPECT_TRUE(form.Picture2->isVisible());
+                form.AutoHide_HideProc(HideMode::TrayIcon, true); // one at a time
+            });
+            form.AutoHide_HideProc(c.mode, false);
+            EXPECT_EQ(Place(), c.rest);
+            EXPECT_EQ(form.Picture2->geometry(), QRect(QPoint(), c.rest.size()));
+            EXPECT_LE(clock.Milliseconds_Since(start), c.longest + (isSlow ? 2000 : 0));
+            EXPECT_FALSE(form.Toolbar_Visible());
+            EXPECT_FALSE(form.IsHiding());
+            EXPECT_EQ(form.Line_Width(), 112);
+            EXPECT_EQ(form.Live_Bounds().Width, c.rest.width() * 15);
+            QTest::keyClick(&form, Qt::Key_Right, Qt::ControlModifier);
+            EXPECT_EQ(Place(), c.rest);
+            QTest::mouseClick(form.Picture2, Qt::LeftButton);
+            Expect_Shown(Home);
+        }
+    }
+    EXPECT_EQ(windows.windows[form.winId()].alphas.size(), 0U);
+}
+
+TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
+    QTest::mouseClick(form.wbButton1, Qt::LeftButton);
+    EXPECT_EQ(Place(), QRect(100, 50, 333, 8));
+    EXPECT_EQ(form.Picture2->accessibleName(), u"Click here to show the toolbar"_s);
+    EXPECT_EQ(form.Picture2->Face_Color().name(), u"#e0e0e0"_s);
+    Press(form.Picture2, {200, 54});
+    EXPECT_EQ(form.Picture2->Face_Color().name(), u"#f5f5f5"_s);
+    Release(form.Picture2, {2000, 54});
+    EXPECT_EQ(form.Picture2->Face_Color().name(), u"#e0e0e0"_s);
+    EXPECT_TRUE(form.Is_Collapsed());
+    QTest::keyClick(form.Picture2, Qt::Key_Space);
+    Expect_Shown(Home);
+}
+
+TEST_F(AutoHideTest, A_show_in_the_middle_of_a_collapse_ends_where_the_strip_was) {
+    for (const HideMode mode : {HideMode::Top, HideMode::Left, HideMode::Right, HideMode::Bottom}) {
+        After(100, [this] {
+            EXPECT_NE(Place(), Home);
+            EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
+            form.AutoHide_ShowProc(false);
+        });
+        form.AutoHide_HideProc(mode, false);
+        Expect_Shown(Home);
+    }
+    // A hide inside the show of a hide: the last word counts.
+    After(100, [this] {
+        form.AutoHide_ShowProc(false);
+        form.AutoHide_HideProc(HideMode::Bottom, false);
+    });
+    form.AutoHide_HideProc(HideMode::Left, false);
+    EXPECT_EQ(Place(), QRect(100, 62, 333, 8));
+    EXPECT_FALSE(form.IsHiding());
+}
+
+TEST_F(AutoHideTest, The_end_of_the_program_stops_a_collapse_and_a_fade_where_they_are) {
+    After(100, [] { Set_Program_Ending(true); });
+    form.AutoHide_HideProc(HideMode::Left, false);
+    EXPECT_GT(form.width(), 10);
+    EXPECT_FALSE(form.IsHiding());
+    form.AutoHide_ShowProc(false);
+    form.AutoHide_HideProc(HideMode::Top, false);
+    EXPECT_GT(form.width(), 10);
+    EXPECT_EQ(form.height(), 20);
+
+    Set_Program_Ending(false);
+    form.AutoHide_ShowProc(true);
+    Global_UseTransparency = true;
+    After(100, [] { Set_Program_Ending(true); });
+    form.AutoHide_HideProc(HideMode::TrayIcon, false);
+    const std::int32_t start = clock.Milliseconds();
+    Let_Fade();
+    EXPECT_LT(clock.Milliseconds_Since(start), 120);
+    EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
+}
+
+TEST_F(AutoHideTest, A_guarded_strip_stays_and_only_the_close_button_says_why) {
+    form.Guard_Hiding(u"Not now"_s);
+    clock.Advance(6000);
+    timers.Tick(TimerName::AutoHideTimer);
+    form.AutoHide_HideProc(HideMode::Top, false);
+    Expect_Shown(Home);
+    for (const auto shift : {Qt::NoModifier, Qt::ShiftModifier}) {
+        dialogs.Expect_Message(u"Not now"_s);
+        QTest::mouseClick(form.wbButton1, Qt::LeftButton, shift);
+        Expect_Shown(Home);
+    }
+    form.AutoHide_HideProc(HideMode::Top, true);
+    EXPECT_TRUE(form.Is_Collapsed());
+    form.AutoHide_ShowProc(true);
+    form.Lift_HideGuard();
+    QTest::mouseClick(form.wbButton1, Qt::LeftButton);
+    EXPECT_TRUE(form.Is_Collapsed());
+}
+
+TEST_F(AutoHideTest, It_hides_by_itself_when_the_mouse_has_been_away_long_enough) {
+    const auto tick = [this](int milliseconds) {
+        clock.Advance(milliseconds);
+        timers.Tick(TimerName::AutoHideTimer);
+        return form.Is_Collapsed();
+    };
+    EXPECT_FALSE(tick(4999));
+    Move_Cursor(433, 70); // rests on the corner
+    EXPECT_FALSE(tick(3600'000));
+    Move_Cursor(434, 70);
+    linksMenu = true;
+    EXPECT_FALSE(tick(0));
+    linksMenu = false;
+    Global_ToolbarMessages[4].Active = true;
+    EXPECT_FALSE(tick(0));
+    Global_ToolbarMessages[4].Active = false;
+    Global_Autohide_Enabled = false;
+    EXPECT_FALSE(tick(0));
+    Global_Autohide_Enabled = true;
+    EXPECT_TRUE(tick(0));
+    EXPECT_EQ(Place(), QRect(100, 50, 10, 20)); // left of the middle
+    EXPECT_TRUE(tick(1000));
+
+    form.AutoHide_ShowProc(false);
+    EXPECT_FALSE(tick(5999)); // a second more than the wait time
+    Global_Autohide_SelectedHideMode = 3;
+    EXPECT_TRUE(tick(1));
+    EXPECT_EQ(Place(), QRect(100, 62, 333, 8));
+}
+
+TEST_F(AutoHideTest, Hidden_completely_it_comes_back_by_its_icon_and_the_icon_s_menu) {
+    commands.Connect(ToolbarCommand::View_Notes, [this] {
+        EXPECT_TRUE(form.Toolbar_Visible());
+        done << u"notes"_s;
+    });
+    const auto hide = [this] {
+        QTest::mouseClick(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier);
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_FALSE(form.Toolbar_Visible());
+        EXPECT_FALSE(timers.Is_Enabled(TimerName::AutoHideTimer));
+        ASSERT_TRUE(tray.icon);
+    };
+    hide();
+    EXPECT_EQ(done, QStringList{u"complete hide"_s});
+    EXPECT_EQ(tray.icon->Tip, u"Tockly"_s);
+    QString entries;
+    for (const platform::TrayItem& item : tray.icon->Menu) {
+        entries += (item.Enabled ? u"|"_s : u"|~"_s) + item.Caption;
+    }
+    EXPECT_EQ(entries.toStdString(), "|Show Toolbar||~Add new reminder...||~View Reminders|"
+                                     "View Notes||~Setup...||Exit Tockly");
+    windows.windows[form.winId()] = {};
+    tray.Click();
+    Expect_Shown(Home);
+    EXPECT_TRUE(windows.windows[form.winId()].leftTaskBar);
+    EXPECT_TRUE(windows.windows[form.winId()].keepsPlace);
+    EXPECT_TRUE(windows.windows[form.winId()].topmost);
+    for (const int item : {0, 5}) {
+        hide();
+        tray.Pick(item);
+        Expect_Shown(Home);
+    }
+    hide();
+    tray.Pick(9);
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(done.filter(u"hide"_s).size(), 4);
+    EXPECT_EQ(done.filter(QRegularExpression(u"notes|unload"_s)),
+              (QStringList{u"notes"_s, u"unload"_s}));
+}
+
+TEST_F(AutoHideTest, Hiding_a_collapsed_strip_restores_it_first) {
+    form.AutoHide_HideProc(HideMode::Left, false);
+    QTest::mouseRelease(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier, {5, 5});
+    Q_EMIT form.wbButton1->Click();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
+    tray.Click();
+    Expect_Shown(Home);
+}
+
+TEST_F(AutoHideTest, Without_a_tray_the_thin_strip_is_what_stays) {
+    tray.available = false;
+    Global_Autohide_SelectedHideMode = 4;
+    form.Move_To(700, 10);
+    clock.Advance(6000);
+    timers.Tick(TimerName::AutoHideTimer);
+    EXPECT_EQ(Place(), QRect(700, 10, 333, 8));
+    EXPECT_EQ(tray.added, 0);
+    EXPECT_EQ(done, QStringList());
+    form.AutoHide_ShowProc(false);
+    Expect_Shown(QRect(700, 10, 333, 20));
+}
+
+TEST_F(AutoHideTest, It_fades_into_the_tray_taking_no_input_and_can_turn_round) {
+    Global_UseTransparency = true;
+    auto& state = windows.windows[form.winId()];
+    form.AutoHide_HideProc(HideMode::TrayIcon, false);
+    EXPECT_TRUE(tray.icon);
+    EXPECT_FALSE(form.isEnabled());
+    EXPECT_TRUE(form.IsHiding()); // the loop has not begun yet
+    After(150, [this] { EXPECT_TRUE(form.IsHiding()); });
+    Let_Fade();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_TRUE(form.isEnabled());
+    EXPECT_FALSE(form.IsHiding());
+    EXPECT_TRUE(tray.icon);
+
+    tray.Click();
+    EXPECT_EQ(state.alpha, 1);
+    Let_Fade();
+    Expect_Shown(Home);
+    EXPECT_EQ(state.alpha, std::nullopt);
+
+    // A message comes in the middle of the fade.
+    state.alphas.clear();
+    form.AutoHide_HideProc(HideMode::TrayIcon, false);
+    int turned = 0;
+    After(150, [&] {
+        turned = state.alpha.value();
+        form.AutoHide_ShowProc(false);
+        EXPECT_EQ(state.alpha, turned);
+        EXPECT_TRUE(form.isEnabled());
+    });
+    Let_Fade();
+    EXPECT_EQ(turned, 254 - 50); // a step every 3 ms
+    EXPECT_EQ(*std::min_element(state.alphas.begin(), state.alphas.end()), turned);
+    Expect_Shown(Home);
+
+    // The same without a fade back.
+    form.AutoHide_HideProc(HideMode::TrayIcon, false);
+    After(150, [this] { form.AutoHide_ShowProc(true); });
+    Let_Fade();
+    Expect_Shown(Home);
+    EXPECT_EQ(state.alpha, std::nullopt);
+}
+
+TEST_F(AutoHideTest, The_fade_of_another_window_holds_off_a_hide_and_leaves_a_show_alone) {
+    QWidget other;
+    Global_UseTransparency = true;
+    Global_Transparency().DoFadeIn(&other);
+    After(30, [this] {
+        EXPECT_TRUE(form.IsHiding());
+        form.AutoHide_HideProc(HideMode::Top, false);
+        form.AutoHide_ShowProc(false);
+        EXPECT_EQ(Place(), Home);
+    });
+    Let_Fade();
+    Expect_Shown(Home);
+    EXPECT_EQ(windows.windows[form.winId()].alphas.size(), 0U);
+}
+
+TEST_F(AutoHideTest, A_storm_of_clicks_leaves_a_strip_that_answers) {
+    Global_UseTransparency = true;
+    const auto storm = [this] {
+        QTest::mouseClick(form.wbButton1, Qt::LeftButton);
+        QTest::mouseClick(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier);
+        QTest::mouseClick(form.Picture2, Qt::LeftButton);
+        if (tray.icon) {
+            tray.Click();
+        }
+    };
+    for (int milliseconds = 0; milliseconds < 400; milliseconds += 23) {
+        After(milliseconds, storm);
+    }
+    storm();
+    clock.Advance(400);
+    QCoreApplication::processEvents();
+    Let_Fade();
+    form.AutoHide_ShowProc(true);
+    Let_Fade();
+    Expect_Shown(Home);
+}
+
+} // namespace
