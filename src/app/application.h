@@ -1,0 +1,70 @@
+// The program from its load to its end: constructs the windows, connects the floors, loads and
+// saves in a fixed order.
+#pragma once
+
+#include "controls/timers.h"
+#include "platform/session.h"
+#include "toolbar/toolbar_commands.h"
+
+#include <QString>
+
+#include <memory>
+
+class MainForm;
+
+class Application {
+public:
+    Application();
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    // The load sequence; false when the end came in the middle of it. Boxes of the load pump
+    // events.
+    bool Load();
+    // The user ends the program: everything is saved, then a box tells what could not be.
+    void Unload();
+    // The system ends the program: everything is saved, nothing waits for an answer.
+    void End(platform::EndReason reason);
+    // A later launch asks for the toolbar.
+    void Show_Again();
+
+    MainForm* Main_Form() const { return mainForm.get(); }
+
+private:
+    struct Step {
+        const char* Name;
+        void (Application::*Run)(); // none: what it loads or saves is not there yet
+    };
+    static const Step LoadOrder[];
+    static const Step SaveOrder[];
+
+    void Create_Windows();
+    void Init_GlobalArrays();
+    void Load_Settings();
+    void Open_UserFolder();
+    void Load_CategoryTable();
+    void Load_ReminderTable();
+    void Load_RemindAgain();
+    void Show_Missed();
+    void Start_Toolbar();
+    void Start_Timers();
+
+    void Save_ReminderTable();
+    void Save_RemindAgain();
+    void Save_CategoryTable();
+    void Save_RegistryValues();
+    // Saves everything once, in order; shows nothing.
+    void CloseProgram();
+    void Connect_Timers();
+    // True for the first call: the program ends now.
+    bool Begin_Ending();
+
+    QString programFolder;
+    Timers timers;
+    ToolbarCommands commands;
+    std::unique_ptr<MainForm> mainForm;
+    bool loaded = false;
+    bool saved = false;
+    bool remindersSaved = true;
+};
