@@ -41,11 +41,16 @@ TestDesktop::TestDesktop(const QString& size)
         return;
     }
     environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(number.trimmed()));
-    Start({u"openbox"_s});
-    up = Wait_Until([this] {
-        return Run({u"xprop"_s, u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s})
-            .contains("window id"_L1);
-    });
+    // A window manager that comes up too early for its screen goes again.
+    for (int attempt = 0; attempt < 3 && !up; ++attempt) {
+        Start({u"openbox"_s});
+        up = Wait_Until(
+            [this] {
+                return Run({u"xprop"_s, u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s})
+                    .contains("window id"_L1);
+            },
+            5000);
+    }
     Start({u"picom"_s, u"--backend"_s, u"xrender"_s});
     Start({u"tint2"_s});
 }
