@@ -5,7 +5,7 @@ packages_build="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libsdl
 packages_runtime="libqt6svg6 libsdl2-mixer-2.0-0 fonts-dejavu-core xdg-utils"
 packages_desktop="xvfb openbox picom tint2 xdotool x11-utils imagemagick"
 packages_test="libgtest-dev libgmock-dev wmctrl faketime"
-packages_bench="libbenchmark-dev libxcb1-dev"
+packages_bench="libbenchmark-dev dbus-daemon"
 packages_check="clang-format-14 clang-tidy-14"
 
 # need_packages NAME...: installs what is missing. Where it may not, it names the one command.

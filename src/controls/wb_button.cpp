@@ -26,9 +26,7 @@ wbButton::wbButton(QWidget* parent) : QWidget(parent), caption(u"Button 1"_s) {
 
 void wbButton::Set_Caption(const QString& text) {
     caption = text;
-    setAccessibleName(text.isEmpty() ? toolTip() : text);
-    labelWidth = fontMetrics().horizontalAdvance(text);
-    labelLeft = width() / 2 - labelWidth / 2 - 1;
+    labelMiddle = width() / 2;
     labelTop = height() / 2 - 6;
     update();
 }
@@ -83,9 +81,6 @@ void wbButton::Set_Style(ButtonStyle value) {
 
 void wbButton::Set_ToolTipTextLabel(const QString& text) {
     setToolTip(text);
-    if (caption.isEmpty()) {
-        setAccessibleName(text);
-    }
 }
 
 void wbButton::Set_Picture(const QIcon& icon, const QSize& size) {
@@ -129,8 +124,7 @@ QRect wbButton::Picture_Rect() const {
 }
 
 void wbButton::resizeEvent(QResizeEvent*) {
-    labelLeft = 0;
-    labelWidth = width();
+    labelMiddle.reset();
     labelTop = height() / 2 - 6;
 }
 
@@ -153,9 +147,13 @@ void wbButton::hideEvent(QHideEvent*) {
 }
 
 void wbButton::changeEvent(QEvent* event) {
+    // A button that nobody sees yet has nothing to tell the screen readers, whose bridge is slow
+    // to start.
+    if (event->type() != QEvent::EnabledChange || isVisible()) {
+        QWidget::changeEvent(event);
+    }
     if (event->type() == QEvent::EnabledChange) {
         Let_Go();
         update();
     }
-    QWidget::changeEvent(event);
 }

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 enum class ButtonStyle { System = 0, Flat = 1 };
@@ -59,9 +60,7 @@ public:
     QColor Face_Color() const;
     QColor Caption_Color() const;
     QColor Border_Color() const;
-    QRect Caption_Rect() const {
-        return QRect(labelLeft, labelTop, labelWidth, height() - labelTop);
-    }
+    QRect Caption_Rect() const;
     QRect Picture_Rect() const;
 
 Q_SIGNALS:
@@ -120,9 +119,9 @@ private:
     std::vector<QRect> shapes;
     std::vector<QLine> lines;
 
-    int labelLeft = 0;
+    // An assigned caption is as wide as its text, around this middle, until the next resize.
+    std::optional<int> labelMiddle;
     int labelTop = 0;
-    int labelWidth = 0;
     MouseButton lastPressed = MouseButton::None;
     bool highlighted = false;
     bool spaceHeld = false;

@@ -11,6 +11,16 @@ class AccessibleButton : public QAccessibleWidget {
 public:
     explicit AccessibleButton(wbButton* button) : QAccessibleWidget(button, QAccessible::Button) {}
 
+    // Worked out when a reader asks: a name told to the toolkit starts its bridge to the readers,
+    // and that costs the start of the program its time.
+    QString text(QAccessible::Text kind) const override {
+        const auto* button = static_cast<const wbButton*>(widget());
+        const QString told = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || !told.isEmpty()) {
+            return told;
+        }
+        return button->Caption().isEmpty() ? button->toolTip() : button->Caption();
+    }
     QStringList actionNames() const override {
         return QStringList{pressAction()} + QAccessibleWidget::actionNames();
     }

@@ -23,6 +23,15 @@ QColor wbButton::Border_Color() const {
     return isEnabled() ? color : palette::Faded(color);
 }
 
+// Measured when it is asked for: the first text costs the start of the program its fonts.
+QRect wbButton::Caption_Rect() const {
+    if (!labelMiddle) {
+        return {0, labelTop, width(), height() - labelTop};
+    }
+    const int labelWidth = fontMetrics().horizontalAdvance(caption);
+    return {*labelMiddle - labelWidth / 2 - 1, labelTop, labelWidth, height() - labelTop};
+}
+
 void wbButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (style == ButtonStyle::System) {

@@ -89,6 +89,9 @@ void MainForm::AutoHideTimer_Tick() {
     moment.MessageActive = Any_MessageActive();
     moment.SinceMouseOver = platform::Clock::Get().Milliseconds_Since(LastMouseOver);
     moment.WaitTime = Global_Autohide_WaitTime;
+    if (!moment.Has_Waited()) {
+        return; // each look for the cursor wakes the window system
+    }
     moment.Cursor = platform::Desktop::Get().Cursor_Position();
     moment.Bounds = toolbarRect;
     moment.LinksMenuVisible = ports.LinksMenu_Visible && ports.LinksMenu_Visible();

@@ -41,8 +41,7 @@ HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, platform::Size
 }
 
 bool AutoHide_Is_Due(const AutoHideMoment& moment) {
-    if (!moment.Enabled || moment.Collapsed || moment.MessageActive ||
-        moment.SinceMouseOver < moment.WaitTime) {
+    if (!moment.Has_Waited()) {
         return false;
     }
     const ToolbarRect& strip = moment.Bounds;

@@ -29,6 +29,11 @@ struct AutoHideMoment {
     std::optional<platform::Point> Cursor;
     ToolbarRect Bounds;
     bool LinksMenuVisible = false;
+
+    // Nothing holds the strip, and the wait time has run out: now the cursor decides.
+    bool Has_Waited() const {
+        return Enabled && !Collapsed && !MessageActive && SinceMouseOver >= WaitTime;
+    }
 };
 // A mouse that rests on the strip counts as present; the strip's edges belong to it.
 bool AutoHide_Is_Due(const AutoHideMoment& moment);

@@ -11,6 +11,7 @@
 #include "toolbar/message_strip.h"
 #include "toolbar/toolbar_layout.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QToolTip>
 #include <QWindow>
@@ -40,7 +41,6 @@ MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActio
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), commands(toolbarCommands),
       container(std::move(messageActions)) {
     setWindowTitle(u"Tockly Toolbar"_s);
-    setWindowIcon(Load_Icon(IconName::Program));
     setMinimumSize(1, 1);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -173,6 +173,16 @@ void MainForm::Stand_Apart() {
         platform::Windows::Get().Keep_Place(winId());
     }
     Stay_OnTop(Trigger::Now);
+}
+
+// What nobody sees of a strip that has just appeared is left until then: the icon of a window
+// without an entry, and the bridge to screen readers, which the first name told starts.
+void MainForm::Finish_Look() {
+    if (!QApplication::windowIcon().isNull()) {
+        return;
+    }
+    QApplication::setWindowIcon(Load_Icon(IconName::Program));
+    Picture1->setAccessibleName(u"Message line"_s);
 }
 
 // Closing the strip ends the program, by the way that saves.

@@ -119,6 +119,7 @@ private:
     void Stay_OnTop(Trigger trigger);
 
     void Stand_Apart();
+    void Finish_Look();
 
     // x: pixels on the strip, cursor: on the screen.
     void Form_MouseDown(MouseButton button, int x, const QPoint& cursor);

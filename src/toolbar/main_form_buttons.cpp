@@ -52,7 +52,6 @@ void MainForm::Build_Buttons() {
 
     const QString hint = u"Click and hold down the mouse button to move the toolbar"_s;
     Picture1 = new MessageSurface(this);
-    Picture1->setAccessibleName(u"Message line"_s);
     Picture1->setToolTip(hint);
     Picture1->installEventFilter(this);
     Label1 = new MessageText(Picture1);

@@ -37,6 +37,7 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event) {
         windowHandle()->isExposed()) {
         standsApart = true;
         Stand_Apart();
+        Finish_Look();
     }
     if (watched != Picture1 && watched != Label1) {
         return QWidget::eventFilter(watched, event);

@@ -62,7 +62,6 @@ MessageText::MessageText(QWidget* parent) : QWidget(parent) {
 void MessageText::Set_Text(const QString& text) {
     shown = text;
     layout.setText(As_Line(text));
-    layout.prepare(QTransform(), font());
     update();
 }
 

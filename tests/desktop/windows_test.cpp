@@ -17,9 +17,25 @@ protected:
         }
         return all;
     }
-    void Press_Escape(const QString& window) {
-        desktop.XDo({u"windowactivate"_s, u"--sync"_s, window});
+    // What the screen shows at a place, as a short text.
+    QString Picture_Of(const QRect& place) {
+        return desktop.Run(
+            {u"import"_s, u"-window"_s, u"root"_s, u"-crop"_s,
+             u"%1x%2+%3+%4"_s.arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y()),
+             u"-format"_s, u"%#"_s, u"info:-"_s});
+    }
+    // True once the window shows something else, or is gone.
+    bool Press_Escape(const QString& window) {
+        const QRect place = desktop.Geometry(window);
+        desktop.XDo({u"windowactivate"_s, window});
+        if (!Wait_Until([&] { return desktop.XDo({u"getactivewindow"_s}) == window; })) {
+            return false;
+        }
+        const QString before = Picture_Of(place);
         desktop.XDo({u"key"_s, u"Escape"_s});
+        return Wait_Until([&] {
+            return !desktop.Visible_Windows(Note).contains(window) || Picture_Of(place) != before;
+        });
     }
 };
 
@@ -41,13 +57,10 @@ TEST_F(Windows, Fifteen_At_Once_Stand_Beside_The_Toolbar_And_Are_Reached_One_Aft
     EXPECT_EQ(left, (QList<int>{345 - 254, 345 + 333}));
 
     int closed = 0;
-    while (Count(Note) > 0 && closed < 20) {
-        const QStringList before = desktop.Visible_Windows(Note);
-        Press_Escape(before.first());
+    for (QStringList open = desktop.Visible_Windows(Note); !open.isEmpty() && closed < 20;
+         open = desktop.Visible_Windows(Note)) {
+        ASSERT_TRUE(Press_Escape(open.first())) << closed;
         ++closed;
-        if (closed >= 14) {
-            EXPECT_TRUE(Wait_Until([&] { return Count(Note) == 15 - closed; }));
-        }
     }
     EXPECT_EQ(closed, 15);
     EXPECT_TRUE(tockly.Is_Running()) << "closing windows never ends the program";

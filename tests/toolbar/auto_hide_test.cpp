@@ -1,4 +1,5 @@
 // The strip that gets out of the way, and comes back.
+#include "support/spoken_name.h"
 #include "toolbar/main_form_fixture.h"
 
 #include <QRegularExpression>
@@ -93,7 +94,7 @@ TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brin
 TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
     QTest::mouseClick(form.wbButton1, Qt::LeftButton);
     EXPECT_EQ(Place(), QRect(100, 50, 333, 8));
-    EXPECT_EQ(form.Picture2->accessibleName(), u"Click here to show the toolbar"_s);
+    EXPECT_EQ(Spoken_Name(form.Picture2), u"Click here to show the toolbar"_s);
     EXPECT_EQ(form.Picture2->Face_Color().name(), u"#e0e0e0"_s);
     Press(form.Picture2, {200, 54});
     EXPECT_EQ(form.Picture2->Face_Color().name(), u"#f5f5f5"_s);
