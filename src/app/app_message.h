@@ -12,7 +12,7 @@ struct AppMessage {
 
 extern AppMessage Global_AppMessage;
 
-// Forgets an earlier command. Runs at every complete hide, just before TK_AppMessage_Timer starts.
+// Forgets an earlier command. Runs at every complete hide.
 void Clear_AppMessage();
 void Post_AppMessage(const QString& command);
 // True when "Show" is waiting, in any case of letters.

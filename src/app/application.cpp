@@ -102,11 +102,7 @@ void Application::Create_Windows() {
                                                             Message_Disable, Message_RemindAgain});
     mainForm->Container().Serve_Windows(
         {Window_DisableForToday, Window_Disable, Window_RemindAgain});
-    mainForm->Connect_Hiding({[this] {
-                                  Clear_AppMessage();
-                                  timers.Enable(TimerName::TK_AppMessage_Timer);
-                              },
-                              {}});
+    mainForm->Connect_Hiding({Clear_AppMessage, {}});
     Global_OptionsMenu = &mainForm->Container();
     Global_Toolbar = mainForm.get();
     Global_MessageLine = mainForm.get();
@@ -197,7 +193,9 @@ void Application::Show_Again() {
     } else if (mainForm->isVisible()) {
         mainForm->Activate();
     } else {
+        // The timer runs only while there is something to read: a toolbar in the tray wakes nobody.
         Post_AppMessage(u"Show"_s);
+        timers.Enable(TimerName::TK_AppMessage_Timer);
     }
 }
 

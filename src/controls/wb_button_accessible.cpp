@@ -15,7 +15,7 @@ public:
     // and that costs the start of the program its time.
     QString text(QAccessible::Text kind) const override {
         const auto* button = static_cast<const wbButton*>(widget());
-        const QString told = QAccessibleWidget::text(kind);
+        QString told = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !told.isEmpty()) {
             return told;
         }

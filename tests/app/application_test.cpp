@@ -199,10 +199,10 @@ TEST_F(Program, A_Later_Launch_Brings_A_Visible_Toolbar_Forward_And_Sends_Show_T
 
     program.Main_Form()->hide();
     Clear_AppMessage();
-    Global_Timers->Enable(TimerName::TK_AppMessage_Timer);
     Global_Timers->Tick(TimerName::TK_AppMessage_Timer);
-    EXPECT_TRUE(Global_Timers->Is_Enabled(TimerName::TK_AppMessage_Timer)) << "nothing came yet";
+    EXPECT_FALSE(program.Main_Form()->isVisible()) << "nothing came yet";
     program.Show_Again();
+    EXPECT_TRUE(Global_Timers->Is_Enabled(TimerName::TK_AppMessage_Timer));
     Global_Timers->Tick(TimerName::TK_AppMessage_Timer);
     EXPECT_FALSE(Global_Timers->Is_Enabled(TimerName::TK_AppMessage_Timer));
     EXPECT_EQ(system.desktop.beeps, 1);
