@@ -26,24 +26,27 @@ QMessageBox::Icon Icon_Of(BoxStyle style) {
         return QMessageBox::Warning;
     case BoxStyle::Information:
         return QMessageBox::Information;
+    case BoxStyle::Question:
+        return QMessageBox::Question;
+    case BoxStyle::Plain:
+        break;
     }
     return QMessageBox::NoIcon;
 }
 
 class ToolkitDialogs : public Dialogs {
 public:
-    void Message(const QString& text, BoxStyle style) override {
+    void Show_Message(const QString& text, const BoxLook& look) override {
         if (!isDismissed) {
-            Show_Box(Icon_Of(style), text, QMessageBox::Ok, QMessageBox::Ok);
+            Show_Box(look, text, QMessageBox::Ok, QMessageBox::Ok);
         }
     }
 
-    Answer Question(const QString& text, bool withCancel) override {
+    Answer Question(const QString& text, bool withCancel, const BoxLook& look) override {
         const auto closing = withCancel ? QMessageBox::Cancel : QMessageBox::No;
         QMessageBox::StandardButton pressed = closing;
         if (!isDismissed) {
-            pressed = Show_Box(QMessageBox::Question, text,
-                               QMessageBox::Yes | QMessageBox::No | closing, closing);
+            pressed = Show_Box(look, text, QMessageBox::Yes | QMessageBox::No | closing, closing);
         }
         if (pressed == QMessageBox::Yes) {
             return Answer::Yes;
@@ -67,18 +70,20 @@ public:
         return Run(box) ? std::optional(box.textValue()) : std::nullopt;
     }
 
-    std::optional<QString> Open_File(const QString& title, const QString& folder,
-                                     const QString& filter) override {
+    std::optional<ChosenFile> Open_File(const QString& title, const QString& folder,
+                                        const QString& filter) override {
         if (isDismissed) {
             return std::nullopt;
         }
         QFileDialog box(nullptr, title, folder, filter);
         box.setAcceptMode(QFileDialog::AcceptOpen);
-        box.setFileMode(QFileDialog::ExistingFile);
+        box.setFileMode(QFileDialog::AnyFile); // the caller may complete a typed name
         if (!Run(box) || box.selectedFiles().isEmpty()) {
             return std::nullopt;
         }
-        return box.selectedFiles().constFirst();
+        const auto filters = box.nameFilters();
+        return ChosenFile{box.selectedFiles().constFirst(),
+                          std::max(0, static_cast<int>(filters.indexOf(box.selectedNameFilter())))};
     }
 
     bool Holds_Timers() override { return holding > 0; }
@@ -95,10 +100,10 @@ public:
     }
 
 private:
-    QMessageBox::StandardButton Show_Box(QMessageBox::Icon icon, const QString& text,
+    QMessageBox::StandardButton Show_Box(const BoxLook& look, const QString& text,
                                          QMessageBox::StandardButtons buttons,
                                          QMessageBox::StandardButton closing) {
-        QMessageBox box(icon, u"Tockly"_s, text, buttons);
+        QMessageBox box(Icon_Of(look.Style), look.Title, text, buttons);
         box.setTextFormat(Qt::PlainText);
         box.setEscapeButton(closing);
         box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes

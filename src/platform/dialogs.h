@@ -9,21 +9,34 @@
 
 namespace platform {
 
-enum class BoxStyle { Critical, Exclamation, Information };
+enum class BoxStyle { Critical, Exclamation, Information, Question, Plain };
 enum class Answer { Yes, No, Cancel };
+
+struct BoxLook {
+    QString Title = QStringLiteral("Tockly");
+    BoxStyle Style = BoxStyle::Question;
+};
+
+struct ChosenFile {
+    QString Path;         // may not be there: the user can type any name
+    int Filter_Index = 0; // of the filter that was chosen, from 0
+};
 
 class Dialogs : public Service<Dialogs> {
 public:
     // A text with one Ok button; its title is "Tockly".
-    virtual void Message(const QString& text, BoxStyle style) = 0;
+    void Message(const QString& text, BoxStyle style) {
+        Show_Message(text, {QStringLiteral("Tockly"), style});
+    }
+    virtual void Show_Message(const QString& text, const BoxLook& look) = 0;
     // A question with Yes, No and, if asked for, Cancel. Closing the box is Cancel, or No without.
-    virtual Answer Question(const QString& text, bool withCancel) = 0;
+    virtual Answer Question(const QString& text, bool withCancel, const BoxLook& look = {}) = 0;
     // A line of text; nothing when the user cancels.
     virtual std::optional<QString> Input(const QString& prompt, const QString& title,
                                          const QString& text) = 0;
-    // An existing file; nothing when the user cancels. filter: "Sounds (*.wav *.mp3)".
-    virtual std::optional<QString> Open_File(const QString& title, const QString& folder,
-                                             const QString& filter) = 0;
+    // A file; nothing when the user cancels. filter: "Sounds (*.wav *.mp3);;All Files (*.*)".
+    virtual std::optional<ChosenFile> Open_File(const QString& title, const QString& folder,
+                                                const QString& filter) = 0;
 
     // A message or question box is on view: it holds the program's timers (an input box and a file
     // dialog do not).

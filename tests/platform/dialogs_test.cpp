@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
@@ -90,7 +91,17 @@ TEST(Dialogs, a_line_is_typed_or_cancelled_and_holds_no_timers) {
     Press_In_Next_Box(Qt::Key_Escape);
     EXPECT_EQ(dialogs->Input(u"New name"_s, u"Rename"_s, u"old"_s), std::nullopt);
     Press_In_Next_Box(Qt::Key_Escape);
-    EXPECT_EQ(dialogs->Open_File(u"Sound"_s, u"/"_s, u"Sounds (*.wav *.mp3)"_s), std::nullopt);
+    EXPECT_FALSE(dialogs->Open_File(u"Sound"_s, u"/"_s, u"Sounds (*.wav *.mp3)"_s));
+    With_Next_Box([](QDialog& box) {
+        box.findChild<QLineEdit*>()->setText(u"alarm"_s);
+        dynamic_cast<QFileDialog&>(box).selectNameFilter(u"WAV File (*.wav)"_s);
+        QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    const auto chosen =
+        dialogs->Open_File(u"Open File"_s, u"/tmp"_s, u"MP3 File (*.mp3);;WAV File (*.wav)"_s);
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->Path, u"/tmp/alarm"_s);
+    EXPECT_EQ(chosen->Filter_Index, 1);
 }
 
 TEST(Dialogs, the_end_of_the_session_cancels_every_open_box_and_all_later_ones) {
@@ -104,6 +115,6 @@ TEST(Dialogs, the_end_of_the_session_cancels_every_open_box_and_all_later_ones) 
     EXPECT_EQ(inner, Answer::Cancel);
     dialogs->Message(u"later"_s, BoxStyle::Information);
     EXPECT_EQ(dialogs->Question(u"Later?"_s, false), Answer::No);
-    EXPECT_EQ(dialogs->Open_File({}, {}, {}), std::nullopt);
+    EXPECT_FALSE(dialogs->Open_File({}, {}, {}));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }

@@ -37,27 +37,29 @@ public:
 
     // The text has to stand in the box's text; empty fits every box.
     void Expect_Message(const QString& text = {}) {
-        script.push_back({Kind::Message, text, platform::Answer::Cancel, {}});
+        script.push_back({Kind::Message, text, platform::Answer::Cancel, {}, 0});
     }
     void Expect_Question(const QString& text, platform::Answer answer) {
-        script.push_back({Kind::Question, text, answer, {}});
+        script.push_back({Kind::Question, text, answer, {}, 0});
     }
     void Expect_Input(const QString& prompt, std::optional<QString> answer) {
-        script.push_back({Kind::Input, prompt, platform::Answer::Cancel, std::move(answer)});
+        script.push_back({Kind::Input, prompt, platform::Answer::Cancel, std::move(answer), 0});
     }
-    void Expect_Open_File(const QString& title, std::optional<QString> answer) {
-        script.push_back({Kind::Open_File, title, platform::Answer::Cancel, std::move(answer)});
+    void Expect_Open_File(const QString& title, std::optional<QString> answer, int filter = 0) {
+        script.push_back(
+            {Kind::Open_File, title, platform::Answer::Cancel, std::move(answer), filter});
     }
     int Messages() const {
         return static_cast<int>(std::count_if(
             shown.begin(), shown.end(), [](const Box& box) { return box.kind == Kind::Message; }));
     }
 
-    void Message(const QString& text, platform::BoxStyle style) override {
-        Show({Kind::Message, text, style, false, {}, {}, {}});
+    void Show_Message(const QString& text, const platform::BoxLook& look) override {
+        Show({Kind::Message, text, look.Style, false, look.Title, {}, {}});
     }
-    platform::Answer Question(const QString& text, bool withCancel) override {
-        const Step step = Show({Kind::Question, text, {}, withCancel, {}, {}, {}});
+    platform::Answer Question(const QString& text, bool withCancel,
+                              const platform::BoxLook& look) override {
+        const Step step = Show({Kind::Question, text, look.Style, withCancel, look.Title, {}, {}});
         if (step.answer == platform::Answer::Cancel && !withCancel) {
             return platform::Answer::No;
         }
@@ -67,9 +69,11 @@ public:
                                  const QString& text) override {
         return Show({Kind::Input, prompt, {}, false, title, text, {}}).line;
     }
-    std::optional<QString> Open_File(const QString& title, const QString& folder,
-                                     const QString& filter) override {
-        return Show({Kind::Open_File, title, {}, false, title, folder, filter}).line;
+    std::optional<platform::ChosenFile> Open_File(const QString& title, const QString& folder,
+                                                  const QString& filter) override {
+        const Step step = Show({Kind::Open_File, title, {}, false, title, folder, filter});
+        return step.line ? std::optional(platform::ChosenFile{*step.line, step.filter})
+                         : std::nullopt;
     }
     bool Holds_Timers() override { return holding > 0; }
     void Dismiss_All() override { dismissed = true; }
@@ -80,6 +84,7 @@ private:
         QString text;
         platform::Answer answer = platform::Answer::Cancel;
         std::optional<QString> line;
+        int filter = 0;
     };
 
     Step Show(const Box& box) {
