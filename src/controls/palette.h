@@ -20,6 +20,7 @@ inline constexpr ColorValue System_GrayText = 0x80000011;
 inline constexpr ColorValue White = 0xFFFFFF;
 inline constexpr ColorValue Black = 0x000000;
 inline constexpr ColorValue Outline = 0x808080;
+inline constexpr ColorValue Form_Back = 0xF3F3F3;
 
 inline constexpr ColorValue Toolbar_Back = 0xE0E0E0;
 inline constexpr ColorValue Message_Back = 0xC0FFFF;

@@ -1,0 +1,91 @@
+#include "controls/form.h"
+
+#include "controls/icons.h"
+#include "controls/metrics.h"
+#include "controls/program_end.h"
+#include "controls/unload_queue.h"
+#include "platform/window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+
+Form::Form(QWidget* owner, Qt::WindowFlags kind) : QWidget(owner, kind) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowIcon(Load_Icon(IconName::Program));
+    setFont(Small_Font());
+    setAutoFillBackground(true);
+    Set_BackColor(palette::Form_Back);
+}
+
+QPalette Form_Palette(ColorValue back) {
+    const QColor text = palette::To_Color(palette::Black);
+    QPalette colors(palette::To_Color(palette::System_ButtonFace), palette::To_Color(back));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        colors.setColor(role, text);
+    colors.setColor(QPalette::Base, palette::To_Color(palette::White));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        colors.setColor(QPalette::Disabled, role, palette::To_Color(palette::System_GrayText));
+    return colors;
+}
+
+void Form::Set_BackColor(ColorValue color) {
+    setPalette(Form_Palette(color));
+}
+
+QLabel* Form::Add_Label(const QString& text, int left, int top, int width, QWidget* parent) {
+    auto* label = new QLabel(text, parent == nullptr ? this : parent);
+    label->setFont(Small_Font());
+    label->setTextFormat(Qt::PlainText);
+    label->move(left, top);
+    if (width > 0) {
+        label->setWordWrap(true);
+        label->setFixedWidth(width);
+        label->resize(width, label->heightForWidth(width));
+    } else {
+        label->adjustSize();
+    }
+    return label;
+}
+
+void Form::Present() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    platform::Windows::Get().Activate(winId());
+}
+
+bool Form::Unload(UnloadMode mode) {
+    if (unloading || asking)
+        return unloading;
+    if (Program_Is_Ending())
+        mode = UnloadMode::Ending;
+    const QPointer<Form> alive(this);
+    asking = true;
+    const bool mayGo = Query_Unload(mode) || mode == UnloadMode::Ending;
+    if (!alive)
+        return true;
+    asking = false;
+    if (!mayGo)
+        return false;
+    unloading = true;
+    On_Unload();
+    if (alive) {
+        hide();
+        Queue_FormUnload(this);
+        Q_EMIT Unloaded();
+    }
+    return true;
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    event->setAccepted(Unload(UnloadMode::User));
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && Escape_Unloads())
+        Unload(UnloadMode::User);
+    else
+        QWidget::keyPressEvent(event);
+}
