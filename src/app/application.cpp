@@ -124,6 +124,9 @@ void Application::Load_Settings() {
     defaults.ToolbarWidth = ToolbarDesignWidth * desktop.TwipsPerPixelX();
     defaults.ScreenWidth = desktop.Screen_Size().width * desktop.TwipsPerPixelX();
     defaults.TwipsPerPixelY = desktop.TwipsPerPixelY();
+    defaults.AccountIsTaken = [this](std::int32_t number) {
+        return Account_Is_Taken(programFolder, number);
+    };
     Load_Global_Settings(defaults);
 }
 

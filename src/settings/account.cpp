@@ -21,10 +21,23 @@ bool May_Be_Marker(const QString& name) {
            !dataFiles.contains(name, Qt::CaseInsensitive);
 }
 
+QString Account_Folder(const QString& programFolder, std::int32_t number) {
+    return programFolder + "/User-"_L1 + QString::number(number);
+}
+
 } // namespace
 
+bool Account_Is_Taken(const QString& programFolder, std::int32_t number) {
+    const QString folder = Account_Folder(programFolder, number);
+    QStringList markers;
+    for (const QString& name : platform::Files::Get().Empty_Files(folder))
+        if (May_Be_Marker(name))
+            markers.append(name);
+    return !markers.isEmpty() && !markers.contains(platform::Session::Get().User_Name());
+}
+
 void Open_Account(const QString& programFolder, std::int32_t number) {
-    Global_UserPath = programFolder + "/User-"_L1 + QString::number(number);
+    Global_UserPath = Account_Folder(programFolder, number);
     auto& files = platform::Files::Get();
     if (!files.Exists(Global_UserPath)) {
         files.Make_Folder(Global_UserPath);

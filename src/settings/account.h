@@ -8,6 +8,9 @@
 // The user's data folder for the whole run; no "/" at its end.
 extern QString Global_UserPath;
 
+// Whether the folder of this number bears another user's marker, and not this user's own: the
+// counter of accounts could not be written for everybody then.
+bool Account_Is_Taken(const QString& programFolder, std::int32_t number);
 // Sets Global_UserPath to "User-<number>" below the program folder, makes the folder and leaves an
 // empty file named after the user in it, so that a person browsing the folders can tell whose it
 // is. Failures are ignored: loading goes on.

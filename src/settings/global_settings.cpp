@@ -122,12 +122,15 @@ void Write_Row(const clsRegistryAccess& registry, const SettingRow& row) {
         registry.WriteDWORD(key, name, *std::get<std::int32_t*>(row.Target));
 }
 
-void Assign_Account() {
+void Assign_Account(const std::function<bool(std::int32_t)>& isTaken) {
     if (Global_CurID != -1)
         return;
-    Global_CurID = Global_MaxAccountID;
-    if (Global_MaxAccountID < std::numeric_limits<std::int32_t>::max())
+    do {
+        Global_CurID = Global_MaxAccountID;
+        if (Global_MaxAccountID == std::numeric_limits<std::int32_t>::max())
+            return;
         ++Global_MaxAccountID;
+    } while (isTaken && isTaken(Global_CurID));
 }
 
 } // namespace
@@ -145,7 +148,7 @@ void Load_Global_Settings(const SettingsDefaults& defaults) {
     // Twips, although a toolbar is dragged no narrower than 280 pixels: that is meant.
     if (Global_Config_MainForm_Width < 280)
         Global_Config_MainForm_Width = 280;
-    Assign_Account();
+    Assign_Account(defaults.AccountIsTaken);
 }
 
 void Save_Global_Settings(const LiveGeometry& geometry, const QString& programFolder) {

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 extern bool Global_TopForm;                   // the toolbar stays above other windows
@@ -30,6 +31,8 @@ struct SettingsDefaults {
     std::int32_t ScreenWidth = 0;         // twips
     std::int32_t TextboxWidth = 258 * 15; // the text box: 250 pixels inside its frame, twips
     std::int32_t TwipsPerPixelY = 15;
+    // Whether an account number that seems to be free belongs to somebody else.
+    std::function<bool(std::int32_t number)> AccountIsTaken = {};
 };
 
 // Where a window stands when the program ends, twips.

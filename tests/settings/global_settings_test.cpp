@@ -1,10 +1,14 @@
 #include "core/date_text.h"
+#include "settings/account.h"
 #include "settings/global_settings.h"
 #include "settings/registry_access.h"
+#include "support/fake_files.h"
 #include "support/fake_session.h"
 #include "support/memory_registry.h"
 
+#include <QFileInfo>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -138,6 +142,30 @@ TEST_F(GlobalSettings, Without_the_machine_key_all_is_kept_but_the_account_count
     EXPECT_EQ(Global_CurID, 1);
     EXPECT_EQ(Global_MaxAccountID, 1);
     EXPECT_EQ(FirstTime, 0);
+}
+
+TEST_F(GlobalSettings, A_number_whose_folder_bears_only_another_users_marker_is_passed_over) {
+    QTemporaryDir program;
+    FakeFiles files;
+    const auto put = [&](const char* path, const char* content) {
+        const QString file = program.filePath(QString::fromLatin1(path));
+        files.Make_Folder(QFileInfo(file).path());
+        EXPECT_TRUE(files.Replace(file, content));
+    };
+    put("User-1/alice", "");
+    put("User-1/notes.dat", "NotesSaveFile");
+    put("User-2/carol", "");
+    put("User-3/links.dat", ""); // an emptied data file is nobody's marker
+    session.userName = u"bob"_s;
+    SettingsDefaults defaults;
+    defaults.AccountIsTaken = [&](std::int32_t number) {
+        return Account_Is_Taken(program.path(), number);
+    };
+    Load_Global_Settings(defaults);
+    EXPECT_EQ(Global_CurID, 3);
+    EXPECT_EQ(Global_MaxAccountID, 4);
+    put("User-2/bob", ""); // both have been here: nobody is driven out
+    EXPECT_FALSE(Account_Is_Taken(program.path(), 2));
 }
 
 } // namespace

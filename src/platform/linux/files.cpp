@@ -62,6 +62,14 @@ public:
     bool Make_Folder(const QString& path) override {
         return !path.isEmpty() && QDir().mkpath(path);
     }
+
+    QStringList Empty_Files(const QString& folder) override {
+        QStringList names;
+        for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden))
+            if (file.size() == 0)
+                names.append(file.fileName());
+        return names;
+    }
 };
 
 } // namespace
