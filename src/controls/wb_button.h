@@ -2,6 +2,7 @@
 // caption and an optional picture. All coordinates are pixels.
 #pragma once
 
+#include "controls/back_style.h"
 #include "controls/input.h"
 #include "controls/palette.h"
 #include "platform/desktop.h"
@@ -16,7 +17,6 @@
 #include <vector>
 
 enum class ButtonStyle { System = 0, Flat = 1 };
-enum class BackStyle { Transparent = 0, Opaque = 1 };
 
 class wbButton : public QWidget {
     Q_OBJECT

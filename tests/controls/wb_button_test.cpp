@@ -1,5 +1,5 @@
+#include "controls/counting_desktop.h"
 #include "controls/wb_button.h"
-#include "support/fake_desktop.h"
 #include "support/spoken_name.h"
 
 #include <QAccessible>
@@ -120,16 +120,6 @@ TEST_F(ButtonTest, Losing_the_focus_ends_a_held_space_without_another_click) {
     EXPECT_EQ(Log(), u"KeyUp"_s);
 }
 
-// A desktop that counts how often it is asked for the cursor.
-class CountingDesktop : public FakeDesktop {
-public:
-    int asked = 0;
-    std::optional<platform::Point> Cursor_Position() override {
-        ++asked;
-        return cursor;
-    }
-};
-
 TEST_F(ButtonTest, The_mouse_over_colours_last_until_the_cursor_is_past_an_edge) {
     const QColor white(255, 255, 255);
     CountingDesktop counting;
@@ -143,8 +133,7 @@ TEST_F(ButtonTest, The_mouse_over_colours_last_until_the_cursor_is_past_an_edge)
                                                     platform::Point{300, 200}, std::nullopt};
     for (const auto& at : still) {
         counting.cursor = at;
-        const int before = counting.asked;
-        ASSERT_TRUE(QTest::qWaitFor([&] { return counting.asked >= before + 2; }));
+        ASSERT_TRUE(counting.Wait_ForPolls());
         EXPECT_EQ(button.Border_Color(), white);
     }
     counting.cursor = platform::Point{398, 215};
