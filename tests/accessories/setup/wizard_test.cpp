@@ -1,0 +1,162 @@
+// The setup wizard and the toolbar that it holds.
+#include "accessories/help/fake_toolbar.h"
+#include "accessories/setup/find_controls.h"
+#include "accessories/setup/frm_wizard.h"
+#include "accessories/setup/run_key.h"
+#include "accessories/setup/setup.h"
+#include "controls/program_end.h"
+#include "controls/timers.h"
+#include "controls/unload_queue.h"
+#include "core/date_text.h"
+#include "settings/global_settings.h"
+#include "support/fake_system.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Guard = QStringLiteral("The Hide/Minimize are disabled during the setup Wizard");
+
+class SetupWizard : public testing::Test {
+protected:
+    SetupWizard() {
+        Global_Autohide_WaitTime = 7000;
+        Global_Autohide_Enabled = true;
+        Global_Autohide_SelectedHideMode = 2;
+        Show_SetupWizard();
+    }
+    ~SetupWizard() override {
+        Set_Program_Ending(false);
+        if (Window() != nullptr)
+            Window()->close();
+        Unload_PendingForms();
+    }
+    static frmWizard* Window() { return Open_Window<frmWizard>(); }
+    static void Choose(const QString& option) { Find<QRadioButton>(option)->click(); }
+    QPoint Place() const { return {toolbar.bounds.Left, toolbar.bounds.Top}; }
+
+    FakeSystem system;
+    FakeToolbar toolbar;
+};
+
+TEST_F(SetupWizard, StoresAllPagesAtTheEndOnly) {
+    QStringList steps;
+    for (int page = 0; page < 6; ++page) {
+        for (const QLabel* label : Window()->findChildren<QLabel*>())
+            if (label->font().bold() && label->text().contains(u"- "_s))
+                steps.append(label->text());
+        if (page < 5)
+            Press(u"Next >"_s);
+    }
+    EXPECT_EQ(steps.join(u'|'), u"1- Welcome|2- AutoHide|3- Position|4- Date format|5- Start up|"
+                                "6- Save new settings"_s);
+    Find<ChkBox>(u"Load Tockly on startup"_s)->Toggle();
+    Find<ChkBox>(u"Enable AutoHide"_s)->Toggle();
+    Choose(u"System tray:"_s);
+    Choose(u"Top-right"_s);
+    Find<QLineEdit>(u"Please insert the date format used to display dates:"_s)->setText(u"dd/mm"_s);
+    EXPECT_TRUE(Global_Autohide_Enabled);
+    system.dialogs.Expect_Message();
+    system.dialogs.whileOpen = [](const auto&) {
+        EXPECT_EQ(Global_Autohide_WaitTime, 10000) << "all is stored before the box";
+        Press(u"Finish"_s); // a second one changes nothing
+    };
+    Press(u"Finish"_s);
+    EXPECT_EQ(system.dialogs.shown.back().text,
+              u"Invalid Date Format: dd/mm\r\n\r\nThe default system format will be used."_s);
+    EXPECT_EQ(Window(), nullptr);
+    EXPECT_EQ(Global_DateFormat, u"dd/mm/yyyy"_s);
+    EXPECT_FALSE(Global_Autohide_Enabled);
+    EXPECT_EQ(Global_Autohide_SelectedHideMode, 4) << "stored although AutoHide is off";
+    EXPECT_TRUE(Read_RunKey());
+    EXPECT_EQ(Place(), QPoint(1280 - 333, 0)) << "the toolbar stays where it was put";
+    EXPECT_TRUE(toolbar.guard.isEmpty());
+}
+
+TEST_F(SetupWizard, MovesTheToolbarAtOnceAndPutsItBackWhenItIsClosed) {
+    Window()->close();
+    toolbar.bounds = {400, 200, 733, 220};
+    Show_SetupWizard();
+    EXPECT_EQ(toolbar.guard, Guard);
+    for (const auto& [option, place] : {std::pair(u"Top-left"_s, QPoint(0, 0)),
+                                        {u"Top-right"_s, QPoint(947, 0)},
+                                        {u"Manual:"_s, QPoint(400, 200)},
+                                        {u"Top-center"_s, QPoint(473, 0)}}) {
+        Choose(option);
+        EXPECT_EQ(Place(), place) << option.toStdString();
+    }
+    QTest::keyClick(Window(), Qt::Key_Escape);
+    EXPECT_EQ(Place(), QPoint(400, 200));
+    EXPECT_TRUE(toolbar.guard.isEmpty());
+    EXPECT_EQ(Global_Autohide_WaitTime, 7000);
+    EXPECT_EQ(Global_Autohide_SelectedHideMode, 2);
+}
+
+TEST_F(SetupWizard, TheHideTestLiftsTheGuardForItsTimeOnly) {
+    const auto test = [this](const std::function<void()>& meanwhile) {
+        const std::int32_t start = system.clock.Milliseconds();
+        QTimer::singleShot(0, Window(), meanwhile);
+        toolbar.steps.clear();
+        Window()->TestHideButton_Click();
+        EXPECT_EQ(toolbar.guard, Guard);
+        EXPECT_TRUE(Find<wbButton>(u"Test"_s)->isEnabled());
+        return system.clock.Milliseconds_Since(start);
+    };
+    for (const auto& [label, step] :
+         {std::pair(u"Click the tray icon to show the toolbar."_s, u"hide 4"_s),
+          {u"The toolbar will shrink on the same location, clicking on "
+           "it will set it back to its normal size."_s,
+           u"hide 2"_s}}) {
+        QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton);
+        EXPECT_EQ(test([this] {
+                      EXPECT_TRUE(toolbar.guard.isEmpty());
+                      EXPECT_FALSE(Find<wbButton>(u"Test"_s)->isEnabled());
+                      EXPECT_FALSE(Find<wbButton>(u"Next >"_s)->isEnabled());
+                  }),
+                  2500);
+        EXPECT_EQ(toolbar.steps, QStringList({step, u"show"_s}));
+    }
+    EXPECT_LT(test([this] { toolbar.AutoHide_ShowProc(false); }), 100)
+        << "somebody who brings the toolbar back has seen enough";
+}
+
+TEST_F(SetupWizard, MayBeClosedOrEndedInTheMiddleOfTheTest) {
+    toolbar.Move_To(10, 20);
+    toolbar.whileHiding = [] {
+        Window()->close();
+        Unload_PendingForms();
+    };
+    Window()->TestHideButton_Click();
+    EXPECT_TRUE(toolbar.visible);
+    EXPECT_TRUE(toolbar.guard.isEmpty());
+    EXPECT_EQ(Place(), QPoint(400, 0));
+
+    Show_SetupWizard();
+    toolbar.Move_To(5, 5);
+    toolbar.whileHiding = [] { Set_Program_Ending(true); };
+    const std::int32_t start = system.clock.Milliseconds();
+    Window()->TestHideButton_Click();
+    EXPECT_EQ(system.clock.Milliseconds(), start) << "the end does not wait";
+    Drop_SetupWizard();
+    EXPECT_EQ(Place(), QPoint(400, 0)) << "its place is what the settings keep";
+}
+
+TEST_F(SetupWizard, ComesByItselfAtTheFirstStartOnly) {
+    Window()->close();
+    for (const int firstTime : {0, 1}) {
+        Timers timers;
+        FirstTime = firstTime;
+        Connect_RunWizard(timers);
+        EXPECT_EQ(timers.Is_Enabled(TimerName::RunWizard_Timer), firstTime != 0);
+        timers.Tick(TimerName::RunWizard_Timer);
+        EXPECT_FALSE(timers.Is_Enabled(TimerName::RunWizard_Timer)) << "once";
+        EXPECT_NE(Window(), nullptr);
+    }
+}
+
+} // namespace
