@@ -106,8 +106,8 @@ private:
         QMessageBox box(Icon_Of(look.Style), look.Title, text, buttons);
         box.setTextFormat(Qt::PlainText);
         box.setEscapeButton(closing);
-        box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? QMessageBox::Yes
-                                                                : QMessageBox::Ok);
+        const auto answer = look.Default == Answer::No ? QMessageBox::No : QMessageBox::Yes;
+        box.setDefaultButton(buttons.testFlag(QMessageBox::Yes) ? answer : QMessageBox::Ok);
         box.setAccessibleDescription(text);
         ++holding;
         Run(box);

@@ -15,6 +15,7 @@ enum class Answer { Yes, No, Cancel };
 struct BoxLook {
     QString Title = QStringLiteral("Tockly");
     BoxStyle Style = BoxStyle::Question;
+    Answer Default = Answer::Yes; // what Enter answers to a question
 };
 
 struct ChosenFile {

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -66,6 +67,19 @@ TEST_F(ShellTest, whatever_a_target_looks_like_it_is_one_argument) {
     EXPECT_TRUE(shell->Open(u"-option.txt"_s, ShowState::Normal));
     EXPECT_EQ(Started(), u"opener|"_s + folder.filePath(u"-option.txt"_s) + u'|');
     QDir::setCurrent(u"/"_s);
+    const QString umlaut = folder.filePath(u"K\u00E4se \u0416.txt"_s);
+    for (const QString& target : {QUrl::fromLocalFile(umlaut).toString(QUrl::FullyEncoded),
+                                  u"file://"_s + umlaut, u' ' + umlaut + u"\r\n"_s}) {
+        EXPECT_TRUE(shell->Open(target, ShowState::Minimized));
+        EXPECT_EQ(Started(), u"opener|"_s + umlaut + u'|');
+    }
+    EXPECT_TRUE(shell->Open(u" WWW.example.org/a b"_s, ShowState::Normal));
+    EXPECT_EQ(Started(), u"opener|http://WWW.example.org/a b|"_s);
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder.path().toLocal8Bit());
+    EXPECT_TRUE(shell->Open(u"~/two words.txt"_s, ShowState::Normal));
+    qputenv("HOME", home);
+    EXPECT_EQ(Started(), u"opener|"_s + folder.filePath(u"two words.txt"_s) + u'|');
     EXPECT_TRUE(shell->Open(u"https://example.org/?a=$(b)&c=\"d e\""_s, ShowState::Normal));
     EXPECT_EQ(Started(), u"opener|https://example.org/?a=$(b)&c=\"d e\"|"_s);
     EXPECT_TRUE(shell->Open(folder.path(), ShowState::Maximized));

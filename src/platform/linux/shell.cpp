@@ -1,14 +1,20 @@
 #include "platform/shell.h"
 
+#include "platform/linux/x11.h"
 #include "platform/providers.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
+
+#include <algorithm>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -33,23 +39,133 @@ bool Is_Program(const QFileInfo& info) {
                                                          "ELF");
 }
 
-bool Launch(const QString& program, const QStringList& arguments, const QString& folder = {}) {
-    return QProcess::startDetached(program, arguments, folder);
+// No window manager takes a show state for a window that is yet to come. So the windows that come
+// up within a while are looked through for one that belongs to what was started: by the note that
+// the environment hands to it, because its process is of the session that was begun for it, or, if
+// it tells of neither, by the program's name. An application that ran before and knows nothing of
+// the note opens as it likes.
+struct StateWish {
+    ShowState state;
+    QByteArray name; // of the program
+    QByteArray note;
+    std::vector<std::uint32_t> windowsBefore;
+    pid_t session = -1;
+};
+
+bool Is_OrdinaryWindow(xcb_window_t window) {
+    const auto types = x11::Items(window, "_NET_WM_WINDOW_TYPE");
+    const xcb_atom_t ordinary = x11::Atom("_NET_WM_WINDOW_TYPE_NORMAL");
+    return types.empty() || std::find(types.begin(), types.end(), ordinary) != types.end();
+}
+
+bool Belongs_To(const StateWish& wish, xcb_window_t window) {
+    const auto& before = wish.windowsBefore;
+    if (std::find(before.begin(), before.end(), window) != before.end() ||
+        !Is_OrdinaryWindow(window)) {
+        return false;
+    }
+    if (x11::Bytes(window, "_NET_STARTUP_ID") == wish.note) {
+        return true;
+    }
+    const auto process = x11::Items(window, "_NET_WM_PID");
+    if (process.empty()) {
+        return x11::Bytes(window, "WM_CLASS").split('\0').front() == wish.name;
+    }
+    return wish.session != -1 && getsid(static_cast<pid_t>(process.front())) == wish.session;
+}
+
+void Carry_Out(ShowState state, xcb_window_t window) {
+    constexpr std::uint32_t iconicState = 3;
+    constexpr std::uint32_t addState = 1;
+    constexpr std::uint32_t fromUser = 2;
+    if (state == ShowState::Minimized) {
+        x11::Tell_Manager(window, "WM_CHANGE_STATE", {iconicState, 0, 0, 0, 0});
+    } else {
+        x11::Tell_Manager(window, "_NET_WM_STATE",
+                          {addState, x11::Atom("_NET_WM_STATE_MAXIMIZED_VERT"),
+                           x11::Atom("_NET_WM_STATE_MAXIMIZED_HORZ"), fromUser, 0});
+    }
+}
+
+void Watch_Windows(const StateWish& wish) {
+    constexpr int interval = 50; // ms
+    constexpr int rounds = 300;
+    auto* timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, wish, left = rounds]() mutable {
+        const auto windows = x11::Items(x11::Root(), "_NET_CLIENT_LIST");
+        const auto found = std::find_if(windows.begin(), windows.end(), [&](xcb_window_t window) {
+            return Belongs_To(wish, window);
+        });
+        if (found != windows.end()) {
+            Carry_Out(wish.state, *found);
+        }
+        if (found != windows.end() || --left == 0) {
+            timer->stop();
+            timer->deleteLater();
+        }
+    });
+    timer->start(interval);
+}
+
+struct Command {
+    QString program;
+    QStringList arguments;
+    QString folder = {};
+};
+
+bool Launch(const Command& command, ShowState state) {
+    static int launches = 0;
+    QProcess process;
+    process.setProgram(command.program);
+    process.setArguments(command.arguments);
+    process.setWorkingDirectory(command.folder);
+    StateWish wish{state, QFileInfo(command.program).fileName().toLocal8Bit(), {}, {}};
+    const bool isWatched = state != ShowState::Normal && x11::Connection() != nullptr;
+    if (isWatched) {
+        wish.windowsBefore = x11::Items(x11::Root(), "_NET_CLIENT_LIST");
+        wish.note = QByteArray("tockly-") + QByteArray::number(getpid()) + '-' +
+                    QByteArray::number(++launches) + "_TIME" +
+                    QByteArray::number(x11::Server_Time());
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DESKTOP_STARTUP_ID"_s, QString::fromLatin1(wish.note));
+        process.setProcessEnvironment(environment);
+    }
+    qint64 started = 0;
+    if (!process.startDetached(&started)) {
+        return false;
+    }
+    if (isWatched) {
+        const pid_t session = getsid(static_cast<pid_t>(started));
+        wish.session = session == getsid(0) ? -1 : session;
+        Watch_Windows(wish);
+    }
+    return true;
 }
 
 // Hands a target to the desktop, which knows the application for it.
-bool Hand_Over(const QString& target) {
+bool Hand_Over(const QString& target, ShowState state) {
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
     if (!opener.isEmpty()) {
-        return Launch(opener, {target});
+        return Launch({opener, {target}}, state);
     }
     const QString other = QStandardPaths::findExecutable(u"gio"_s);
-    return !other.isEmpty() && Launch(other, {u"open"_s, target});
+    return !other.isEmpty() && Launch({other, {u"open"_s, target}}, state);
 }
 
-bool Open_Local(const QFileInfo& info) {
+bool Open_Local(const QFileInfo& info, ShowState state) {
     const QString path = QDir::cleanPath(info.absoluteFilePath());
-    return Is_Program(info) ? Launch(path, {}, info.absolutePath()) : Hand_Over(path);
+    return Is_Program(info) ? Launch({path, {}, info.absolutePath()}, state)
+                            : Hand_Over(path, state);
+}
+
+// A file may be named from the user's own folder, and have been pasted with blanks around it.
+QFileInfo Named_File(const QString& target) {
+    const QFileInfo asIs(target);
+    if (asIs.exists()) {
+        return asIs;
+    }
+    const QString name = target.trimmed();
+    return QFileInfo(name.startsWith("~/"_L1) ? QDir::homePath() + name.mid(1) : name);
 }
 
 // The file that a program's name or path means; empty when there is none.
@@ -61,34 +177,36 @@ QString Find_Program(const QString& program) {
     return program.isEmpty() ? QString() : QStandardPaths::findExecutable(program);
 }
 
-// No window manager takes a show state for a window that is yet to come: it is not used here.
 class LinuxShell : public Shell {
 public:
-    bool Open(const QString& target, ShowState) override {
+    bool Open(const QString& text, ShowState state) override {
+        const QString target = text.trimmed();
         if (target.isEmpty()) {
             return false;
         }
-        const QFileInfo info(target);
+        const QFileInfo info = Named_File(text);
         if (info.exists()) {
-            return Open_Local(info);
+            return Open_Local(info, state);
         }
         if (target.startsWith("file:"_L1, Qt::CaseInsensitive)) {
             const QFileInfo named(QUrl(target).toLocalFile());
-            return named.exists() && Open_Local(named);
+            return named.exists() && Open_Local(named, state);
         }
         if (target.startsWith("www."_L1, Qt::CaseInsensitive)) {
-            return Hand_Over(u"http://"_s + target);
+            return Hand_Over(u"http://"_s + target, state);
         }
         if (Is_Address(target)) {
-            return Hand_Over(target);
+            return Hand_Over(target, state);
         }
         const QString program = Find_Program(target);
-        return !program.isEmpty() && Launch(program, {});
+        return !program.isEmpty() && Launch({program, {}}, state);
     }
 
-    bool Start(const QString& program, const std::vector<QString>& arguments, ShowState) override {
+    bool Start(const QString& program, const std::vector<QString>& arguments,
+               ShowState state) override {
         const QString file = Find_Program(program);
-        return !file.isEmpty() && Launch(file, QStringList(arguments.begin(), arguments.end()));
+        return !file.isEmpty() &&
+               Launch({file, QStringList(arguments.begin(), arguments.end())}, state);
     }
 };
 

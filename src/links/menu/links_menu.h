@@ -1,0 +1,24 @@
+// The links menu as the rest of the house opens and closes it.
+#pragma once
+
+#include "links/menu/links_menu_v2.h"
+
+#include <QRect>
+
+#include <functional>
+
+// At the start, once the timers stand. gone: the menu has left the view (the toolbar's button
+// comes up again).
+void Init_LinksMenu(std::function<void()> gone = {});
+// Shows the menu at the toolbar (strip: its bounds, screen pixels); nothing when there is neither a
+// link nor a category. Opened by keyboard it takes the focus.
+void Open_LinksMenu(MenuOpenedBy how, const QRect& strip);
+// Also while it fades out.
+bool LinksMenu_Visible();
+// At once, without a fade.
+void Hide_LinksMenu();
+// At the end, after the event loop.
+void Unload_LinksMenu();
+
+// The form of the top level; nullptr before it is first opened and after it was unloaded.
+LinksMenuV2* Current_RootMenu();

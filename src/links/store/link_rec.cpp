@@ -1,0 +1,127 @@
+#include "links/store/link_rec.h"
+
+#include "core/damaged_file.h"
+#include "core/record_stream.h"
+#include "platform/files.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+std::vector<LinkRec> Global_LinkArray;
+std::vector<LinkRec> Global_DefaultLinkArray;
+
+namespace {
+
+constexpr std::string_view FileHeader = "LinksSaveFile";
+constexpr std::string_view FileVersion = "001";
+constexpr std::size_t LeastRowBytes = 7; // three empty texts and the start size
+constexpr std::size_t ProgramRows = 21;
+
+constexpr int WrongHeader = -1;
+constexpr int UnknownVersion = -2;
+constexpr int Damaged = 1;
+
+DamagedFile File_OfLinks;
+
+int Read_Rows(RecordReader& stream) {
+    if (stream.Get_Header(FileHeader.size()) != FileHeader)
+        return WrongHeader;
+    const std::string_view version = stream.Get_Header(FileVersion.size());
+    if (stream.Failed())
+        return Damaged;
+    if (version != FileVersion)
+        return UnknownVersion;
+    const std::int32_t last = stream.Get_Long();
+    if (stream.Failed() || last < -1)
+        return Damaged;
+    const auto count = static_cast<std::size_t>(last + std::int64_t{1});
+    if (count > stream.Left() / LeastRowBytes)
+        return Damaged;
+    std::vector<LinkRec> rows(count);
+    for (LinkRec& row : rows) {
+        row.URL = stream.Get_RecString();
+        row.LinkName = stream.Get_RecString();
+        row.Description = stream.Get_RecString();
+        row.StartSize = stream.Get_Byte();
+    }
+    if (stream.Failed())
+        return Damaged;
+    Global_LinkArray = std::move(rows);
+    return 0;
+}
+
+} // namespace
+
+std::size_t Link_Count(const std::vector<LinkRec>& rows) {
+    const auto end = std::find_if(rows.begin(), rows.end(),
+                                  [](const LinkRec& row) { return row.URL.isEmpty(); });
+    return static_cast<std::size_t>(end - rows.begin());
+}
+
+void Build_Default_Links() {
+    const QString rate = u"Rate Tockly"_s;
+    Global_LinkArray = {
+        {u"0http://www.example.com/tockly/"_s, u"Tockly"_s, u"Home of Tockly"_s},
+        {u"0c:\\windows\\notepad.exe"_s, u"NotePad"_s, u"The classic NotePad"_s, 1},
+        {u"0-"_s, u"-------------"_s, u"Separator Example"_s},
+        {u"0http://www.example.com/tockly/rate"_s, rate, u"If you like Tockly, rate it here"_s},
+        {u"0http://www.example.com/"_s, u"Example"_s, u"The best example on the net"_s},
+        {u"@0Category"_s, u"Example Category"_s, QString()},
+        {u"1http://www.example.org/"_s, u"A web browser"_s, u"A web browser that many like"_s},
+    };
+}
+
+void Build_Program_Links() {
+    const struct {
+        const char16_t* URL;
+        const char16_t* Caption;
+        const char16_t* Description; // none: the caption
+    } rows[] = {
+        // Nobody reads it: the text has always been Spanish.
+        {u"@0Category", u"Tockly", u"-------- Las categorias no tienen descripciones"},
+        {u"1help:contents", u"View Help", nullptr},
+        {u"1http://www.example.com/tockly/", u"Tockly on the web", nullptr},
+        {u"1help:about", u"About Tockly", nullptr},
+        {u"1-", u"", u"Separator"},
+        {u"1config:Reminder_Edit", u"View Reminders", nullptr},
+        {u"1config:Notes_Editor", u"View Notes", nullptr},
+        {u"1config:Links_Edit", u"'My Links' menu setup", nullptr},
+        {u"1-", u"", u"Separator"},
+        {u"1config:Program_Setup", u"Program Setup", nullptr},
+        {u"1config:Setup_Wizard", u"Setup wizard", nullptr},
+    };
+    Global_DefaultLinkArray.assign(ProgramRows, {});
+    auto target = Global_DefaultLinkArray.begin();
+    for (const auto& row : rows)
+        *target++ = {
+            QString::fromUtf16(row.URL), QString::fromUtf16(row.Caption),
+            QString::fromUtf16(row.Description == nullptr ? row.Caption : row.Description)};
+}
+
+int Load_Links_File(const QString& fileName) {
+    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+    int result = Damaged;
+    if (bytes) {
+        RecordReader stream(*bytes);
+        result = Read_Rows(stream);
+    }
+    File_OfLinks.Note_Load(fileName, result == 0);
+    return result;
+}
+
+bool Save_Links_File(const QString& fileName) {
+    const std::size_t count = Link_Count(Global_LinkArray);
+    RecordWriter stream;
+    stream.Put_Header(FileHeader);
+    stream.Put_Header(FileVersion);
+    stream.Put_Long(static_cast<std::int32_t>(count) - 1);
+    for (std::size_t index = 0; index < count; ++index) {
+        const LinkRec& row = Global_LinkArray[index];
+        stream.Put_RecString(row.URL);
+        stream.Put_RecString(row.LinkName);
+        stream.Put_RecString(row.Description);
+        stream.Put_Byte(row.StartSize);
+    }
+    return !stream.Failed() && File_OfLinks.Save(fileName, stream.Bytes());
+}

@@ -1,0 +1,32 @@
+// One row of the user's links: its depth in the menu and its kind are the first characters of URL.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+struct LinkRec {
+    QString URL; // empty: the list ends here
+    QString LinkName;
+    QString Description;
+    std::uint8_t StartSize = 0; // 0 normal, 1 minimised, 2 maximised
+    std::int32_t LastVisited = 0;
+    bool operator==(const LinkRec&) const = default;
+};
+
+extern std::vector<LinkRec> Global_LinkArray;
+// The program's own commands; behind the user's rows in the menu, never saved.
+extern std::vector<LinkRec> Global_DefaultLinkArray;
+
+// Rows up to the first empty URL.
+std::size_t Link_Count(const std::vector<LinkRec>& rows);
+
+// The first-run rows.
+void Build_Default_Links();
+void Build_Program_Links();
+// 0, -1 not a links file, -2 version not known, or another number for a failed read. After a
+// failure the table is as it was.
+int Load_Links_File(const QString& fileName);
+// False: nothing was replaced.
+bool Save_Links_File(const QString& fileName);
