@@ -1,0 +1,54 @@
+// The two boxes of a note's card: its title, and its text in a box that is as high as the text.
+// Neither takes more than the file can hold: what would be too much is refused whole.
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+class NoteTitleBox : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit NoteTitleBox(QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    // The text would have become too long, and stays as it was.
+    void Refused();
+    void Focused();
+    void Left();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+class NoteTextBox : public QPlainTextEdit {
+    Q_OBJECT
+public:
+    explicit NoteTextBox(QWidget* parent = nullptr);
+
+    // By the program: tells nobody.
+    void Show_Text(const QString& text);
+    // Lines end with "\n".
+    QString Text() const;
+    // How high the box has to be at its present width, pixels.
+    int Needed_Height() const;
+    // The same for a text that no box shows, roughly: it is not laid out.
+    static int Guessed_Height(const QString& text, int width);
+
+Q_SIGNALS:
+    void Edited(); // by the user
+    void Refused();
+    void Focused();
+    void Left();
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    bool Takes(const QString& inserted);
+};

@@ -1,0 +1,72 @@
+#include "notes/open_note.h"
+
+#include "notes/notes_operations.h"
+#include "platform/record_text.h"
+
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct OpenEdits {
+    int Index = NoNote;
+    std::optional<QString> Title;
+    std::optional<QString> Text;
+};
+
+OpenEdits edits;
+
+OpenEdits& Edits_Of(int index) {
+    if (edits.Index != index)
+        Store_OpenNote();
+    edits.Index = index;
+    return edits;
+}
+
+// Lines end with CR LF, unless just that would be too long for the file.
+QString Stored_Text(const QString& boxText) {
+    QString text = boxText;
+    text.replace(u'\n', "\r\n"_L1);
+    return Fits_RecString(text) ? text : boxText;
+}
+
+} // namespace
+
+void Edit_NoteTitle(int index, const QString& title) {
+    Edits_Of(index).Title = title;
+}
+
+void Edit_NoteText(int index, const QString& text) {
+    Edits_Of(index).Text = text;
+}
+
+int Open_Note() {
+    return edits.Index;
+}
+
+bool Store_OpenNote() {
+    const OpenEdits open = std::exchange(edits, OpenEdits());
+    if (!Is_Note(open.Index))
+        return false;
+    const NoteRec& note = Global_Notes[static_cast<std::size_t>(open.Index)];
+    const bool isOtherText = open.Text && *open.Text != Box_Text(note.Text);
+    return Store_Note(open.Index, open.Title.value_or(note.Title),
+                      isOtherText ? Stored_Text(*open.Text) : note.Text, Read_Moment());
+}
+
+QString Box_Text(const QString& stored) {
+    QString text = stored;
+    text.replace("\r\n"_L1, "\n"_L1);
+    for (const QChar lineEnd :
+         {QChar(u'\r'), QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
+        text.replace(lineEnd, u'\n');
+    return text;
+}
+
+bool Fits_Note(const QString& boxText) {
+    // No character needs more than three bytes; the mark of the long form takes three more.
+    const bool isShort = static_cast<std::size_t>(boxText.size()) * 3 + 3 <= MaxRecStringBytes;
+    return isShort || Fits_RecString(boxText);
+}

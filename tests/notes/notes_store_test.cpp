@@ -1,0 +1,172 @@
+#include "notes_fixture.h"
+
+#include <map>
+#include <random>
+
+using namespace Qt::StringLiterals;
+using namespace std::string_literals;
+
+namespace {
+
+class NotesStore : public NotesTest {
+protected:
+    // Two categories and one note, written by hand.
+    static std::string One_Note() {
+        return "NotesSaveFile001"s + "\x04\0Work"s + "\x02\0Me"s + std::string(32, '\0') +
+               "\0\0\0\0"s + "\xFF\xFF"s + "\x05\0Title"s + "\x04\0a\r\nb"s + "\xE8\x03\0\0"s +
+               "\x56\x25\0\0"s + "\x21\x02\0\0"s + "\x01"s;
+    }
+    int Load(const std::string& bytes) {
+        EXPECT_TRUE(system.files.Replace(File(u"notes.dat"_s), bytes));
+        return Load_Notes_File(File(u"notes.dat"_s));
+    }
+    NotesLoad Load_Account() {
+        return Load_AccountNotes(folder.path(), File(u"examplenotes.dat"_s));
+    }
+};
+
+TEST_F(NotesStore, The_bytes_are_those_written_by_hand) {
+    ASSERT_TRUE(Save_Notes_File(File(u"empty"_s)));
+    EXPECT_EQ(Bytes(u"empty"_s), "NotesSaveFile001"s + std::string(36, '\0') + "\xFF\xFF\xFF\xFF"s);
+    ASSERT_EQ(Load(One_Note()), 0);
+    ASSERT_EQ(Global_Notes.size(), 1U);
+    EXPECT_EQ(Note_Categories(), 2);
+    EXPECT_EQ(Note(0).Text, u"a\r\nb"_s);
+    EXPECT_EQ(Note(0).CreatedDay, 1000);
+    EXPECT_EQ(Note(0).ModifiedDay, 9558);
+    EXPECT_EQ(Note(0).ModifiedMinute, 545);
+    EXPECT_EQ(Note(0).Category, 1);
+    ASSERT_TRUE(Save_Notes_File(File(u"again"_s)));
+    EXPECT_EQ(Bytes(u"again"_s), One_Note());
+}
+
+TEST_F(NotesStore, A_file_broken_anywhere_is_refused_and_kept_aside) {
+    const std::string whole = One_Note();
+    Notes_Build_Example();
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        EXPECT_EQ(Load(whole.substr(0, size)), size < 13 ? NotesWrongHeader : NotesDamaged) << size;
+        EXPECT_EQ(Used_Notes(), 3) << size;
+    }
+    struct Case {
+        const char* name;
+        std::size_t at;
+        std::string bytes;
+        int result;
+    };
+    const std::size_t last = 58;
+    const Case cases[] = {{"another magic", 0, "n", NotesWrongHeader},
+                          {"an unknown version", 13, "000", NotesUnknownVersion},
+                          {"two notes told, one there", last, "\1"s, NotesDamaged},
+                          {"no table is that long", last, "\xFF\xFF\xFF\x7F"s, NotesDamaged},
+                          {"a last index below none", last, "\xFE\xFF\xFF\xFF"s, NotesDamaged},
+                          {"a title past the end", last + 6, "\xFF\xFF"s, NotesDamaged}};
+    for (const Case& row : cases) {
+        std::string bytes = whole;
+        bytes.replace(row.at, row.bytes.size(), row.bytes);
+        EXPECT_EQ(Load(bytes), row.result) << row.name;
+        EXPECT_EQ(Global_NoteCategories[0], u"Work Stuff"_s) << row.name;
+    }
+    EXPECT_EQ(Load_Notes_File(File(u"none"_s)), NotesNotReadable);
+    EXPECT_EQ(Load(whole.substr(0, 50)), NotesDamaged);
+    ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
+    EXPECT_EQ(Bytes(u"notes.dat.damaged"_s), whole.substr(0, 50));
+    EXPECT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
+}
+
+TEST_F(NotesStore, A_new_account_and_a_damaged_one_get_the_examples) {
+    const auto Own_Examples = [this](const std::string& bytes) {
+        Init_Notes();
+        EXPECT_TRUE(system.files.Replace(File(u"examplenotes.dat"_s), bytes));
+    };
+    EXPECT_EQ(Load_Account(), NotesLoad::NoFile);
+    EXPECT_EQ(Used_Notes(), 3);
+    EXPECT_EQ(Note(2).Category, 1);
+    Own_Examples(One_Note()); // they are read, and the program's own follow
+    EXPECT_EQ(Load_Account(), NotesLoad::NoFile);
+    EXPECT_EQ(Note(0).Title, u"Example note 1"_s);
+    EXPECT_EQ(Global_Notes.size(), 3U);
+    Own_Examples("damaged");
+    system.files.Replace(File(u"notes.dat"_s), "NotesSaveFile000");
+    EXPECT_EQ(Load_Account(), NotesLoad::UnknownVersion);
+    EXPECT_EQ(Used_Notes(), 0);
+    // The examples that failed too do not make it forget the account's own file.
+    ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
+    EXPECT_EQ(Bytes(u"notes.dat.damaged"_s), "NotesSaveFile000");
+    system.files.Replace(File(u"notes.dat"_s), "x");
+    EXPECT_EQ(Load_Account(), NotesLoad::Invalid);
+    system.files.Replace(File(u"notes.dat"_s), One_Note());
+    EXPECT_EQ(Load_Account(), NotesLoad::Loaded);
+    EXPECT_EQ(Used_Notes(), 1);
+    system.files.refusedWrites << u"notes.dat"_s;
+    EXPECT_FALSE(Save_Notes_File(File(u"notes.dat"_s)));
+    EXPECT_EQ(Bytes(u"notes.dat"_s), One_Note());
+}
+
+TEST_F(NotesStore, Saving_moves_the_last_notes_into_the_gaps) {
+    Add_NoteCategory(u"c"_s);
+    for (int note = 0; note < 6; ++note)
+        Note(Add_Note(0, Read_Moment())).Title = QString(QChar(u'a' + note));
+    for (const int gap : {0, 2, 5})
+        Delete_Note(gap);
+    ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
+    Init_Notes();
+    ASSERT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
+    QString order;
+    for (const NoteRec& note : Global_Notes)
+        order += note.InUse ? note.Title : u"-"_s;
+    EXPECT_EQ(order, u"ebd"_s);
+}
+
+// The second model ties each note to the name of its category and knows nothing of indices.
+TEST_F(NotesStore, Any_sequence_of_changes_agrees_with_a_plain_second_model) {
+    std::mt19937 random(7);
+    std::vector<QString> names;
+    std::map<QString, QString> homes;
+    for (int step = 0; step < 6000; ++step) {
+        const QString name = QString::number(step);
+        const auto kind = random() % 12;
+        const auto from = random() % (names.size() + 1); // one past the last is none
+        const auto to = random() % (names.size() + 1);
+        const auto notes = Notes_OfCategory(static_cast<int>(from));
+        const int note = notes.empty() ? NoNote : notes[random() % notes.size()];
+        if (kind < 2) {
+            EXPECT_EQ(Add_NoteCategory(name) == NoCategory, names.size() == 18);
+            if (names.size() < 18)
+                names.push_back(name);
+        } else if (kind == 2) {
+            Delete_NoteCategory(static_cast<int>(from));
+            if (from < names.size()) {
+                std::erase_if(homes, [&](const auto& home) { return home.second == names[from]; });
+                names.erase(names.begin() + static_cast<std::ptrdiff_t>(from));
+            }
+        } else if (kind < 8) {
+            const int added = Add_Note(static_cast<int>(from), Read_Moment());
+            ASSERT_EQ(added != NoNote, from < names.size());
+            if (added != NoNote)
+                homes[Note(added).Title = name] = names[from];
+        } else if (kind < 11 && note != NoNote && to < names.size()) {
+            homes[Note(note).Title] = names[to];
+            Move_Note(note, static_cast<int>(to));
+        } else if (note != NoNote) {
+            homes.erase(Note(note).Title);
+            Delete_Note(note);
+        }
+        if (step % 500 == 499) {
+            ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
+            Init_Notes();
+            ASSERT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
+        }
+        std::map<QString, QString> stored;
+        for (std::size_t category = 0; category < names.size(); ++category) {
+            const auto inside = Notes_OfCategory(static_cast<int>(category));
+            ASSERT_EQ(static_cast<std::size_t>(Count_Notes()[category]), inside.size());
+            for (const int index : inside)
+                stored[Note(index).Title] = Global_NoteCategories[category];
+        }
+        ASSERT_EQ(stored, homes) << step;
+        ASSERT_EQ(static_cast<std::size_t>(Used_Notes()), homes.size());
+        ASSERT_EQ(static_cast<std::size_t>(Note_Categories()), names.size());
+    }
+}
+
+} // namespace
