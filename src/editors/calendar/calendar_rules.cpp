@@ -1,0 +1,52 @@
+#include "editors/calendar/calendar_rules.h"
+
+#include "core/date_text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int OfferedAhead = 5;
+constexpr int Gap = 4; // pixels between the anchor and the window
+constexpr qsizetype YearDigits = 6;
+
+} // namespace
+
+bool Is_CalendarMonth(int month, int year) {
+    return month >= 1 && month <= 12 && year >= FirstCalendarYear && year <= LastCalendarYear;
+}
+
+int First_DayCell(int month, int year) {
+    // Day 3 is a Monday.
+    return (DateToDay(1, month, year) + 4) % CalendarColumns;
+}
+
+int Days_OfMonth(int month, int year) {
+    return DaysInMonth(month, year);
+}
+
+QStringList Offered_Years(int presentYear) {
+    QStringList years;
+    for (int year = FirstCalendarYear; year <= presentYear + OfferedAhead; ++year)
+        years << QString::number(year);
+    return years;
+}
+
+int Typed_Year(const QString& text) {
+    const QString typed = text.trimmed();
+    const auto end = std::find_if(typed.begin(), typed.end(), [](QChar letter) {
+        return letter < QChar(u'0') || letter > QChar(u'9');
+    });
+    return typed.left(std::min<qsizetype>(end - typed.begin(), YearDigits)).toInt();
+}
+
+QPoint Place_Beside(const QRect& anchor, const QSize& window, const QSize& screen) {
+    int left = anchor.x() + anchor.width() + Gap;
+    if (left + window.width() > screen.width())
+        left = anchor.x() - Gap - window.width();
+    const auto inside = [](int place, int length, int room) {
+        return std::max(0, std::min(place, room - length));
+    };
+    return {inside(left, window.width(), screen.width()),
+            inside(anchor.y(), window.height(), screen.height())};
+}

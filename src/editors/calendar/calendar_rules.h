@@ -1,0 +1,27 @@
+// What the date picker shows: which cells of the grid belong to a month, and where it stands.
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QStringList>
+
+constexpr int CalendarRows = 6;
+constexpr int CalendarColumns = 7; // Monday first
+constexpr int FirstCalendarYear = 2000;
+constexpr int LastCalendarYear = 2099;
+
+// Month 1..12 of a year that the picker knows.
+bool Is_CalendarMonth(int month, int year);
+// The cell of the month's first day, 0 = Monday .. 6 = Sunday.
+int First_DayCell(int month, int year);
+// Every year divisible by 4 has a 29 February.
+int Days_OfMonth(int month, int year);
+// What the box of years offers: to five years from now.
+QStringList Offered_Years(int presentYear);
+// The number at the start of what was typed; 0 when there is none.
+int Typed_Year(const QString& text);
+
+// Top left corner for a window of this size: right of the anchor, else left of it, always on the
+// screen as far as it fits. Screen pixels.
+QPoint Place_Beside(const QRect& anchor, const QSize& window, const QSize& screen);

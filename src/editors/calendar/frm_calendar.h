@@ -1,0 +1,50 @@
+// The date picker: one month as a grid of days. Hands back a date text in the user's format.
+#pragma once
+
+#include "controls/form.h"
+
+#include <QString>
+
+#include <cstdint>
+
+class DayGrid;
+class QComboBox;
+class wbButton;
+
+class frmCalendar : public Form {
+    Q_OBJECT
+public:
+    // Shows the present month. Where it stands is the caller's choice.
+    explicit frmCalendar(QWidget* owner);
+
+    // Fills the grid; Month 1..12, Year 2000..2099 (anything else: nothing changes). Takes the
+    // selection off.
+    void UpdateCalendar(int Month, int Year);
+    // Selects a cell, 0..41; a hidden one: nothing.
+    void DaysLabel_Click(int Index);
+    // Shows a date, its day selected; day 0: the month alone.
+    void Show_Date(int DayOfMonth, int Month, int Year);
+    // The date of a text in the user's format, or the present month when it is none.
+    void Show_DateText(const QString& text);
+    // Shows it beside a rectangle of the screen, pixels.
+    void Present_Beside(const QRect& anchor);
+
+Q_SIGNALS:
+    void DateSelected(const QString& NewDate);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Build_Controls();
+    void Fill_Boxes();
+    void Combo_Changed();
+    void wbButton1_Click();
+
+    QComboBox* Combo1 = nullptr;
+    QComboBox* Combo2 = nullptr;
+    DayGrid* DaysLabel = nullptr;
+    wbButton* wbButton1 = nullptr;
+    std::int32_t CurrentYear = 0;
+    std::int32_t CurrentMonth = 0;
+};
