@@ -27,8 +27,8 @@ ReminderClass Example(std::int32_t id, const QString& title, const QString& text
     return reminder;
 }
 
-// Its cycle of days begins on the day of the first start and is longer than anybody's patience, so
-// it greets on that day only. As an interval until midnight it never counts as missed.
+// Its exact date, for want of one, becomes the day of the first start. As an interval until midnight
+// it never counts as missed.
 ReminderClass Greeting() {
     ReminderClass reminder = Example(
         0, u"Welcome to Tockly"_s,
@@ -38,8 +38,8 @@ ReminderClass Greeting() {
         "it."_s);
     reminder.rs_Enabled = true;
     reminder.rs_Reminder_Type = ReminderType::InsideToolbar;
-    reminder.rs_DateType_Used = DateType::EveryXDays;
-    reminder.rs_ReDays = 32767;
+    reminder.rs_DateType_Used = DateType::ExactDate;
+    reminder.rs_Icon = u"Planner"_s;
     reminder.AddNewHourSetup({On, AtStartUp, LastMinute, LastMinute});
     return reminder;
 }
@@ -68,6 +68,7 @@ ReminderClass Birthday() {
     reminder.rs_DateType_Used = DateType::ExactDate;
     reminder.rs_SRDay = 14;
     reminder.rs_SRMonth = 3;
+    reminder.rs_SRLongday = DateToDay(14, 3, 2008); // year 0 makes it every year
     reminder.rs_PlaySound = true;
     reminder.AddNewHourSetup({On, 540, 0, 0});
     reminder.AddNewHourSetup({On, 1080, 0, 0});
@@ -88,6 +89,7 @@ ReminderClass Pay_The_Bills() {
     reminder.rs_PlaySound = true;
     reminder.AddNewHourSetup({On, 1080, 0, 0});
     reminder.rs_Category = u"Misc"_s;
+    reminder.rs_Icon = u"Credit card"_s;
     return reminder;
 }
 
@@ -101,7 +103,7 @@ ReminderClass Water_The_Plants() {
     reminder.rs_ReDays = 3;
     reminder.AddNewHourSetup({On, 510, 0, 0});
     reminder.rs_Category = u"Family"_s;
-    reminder.rs_Icon = u"Home"_s;
+    reminder.rs_Icon = u"Flower pot"_s;
     return reminder;
 }
 

@@ -51,6 +51,20 @@ int Read_Table(RecordReader& stream, std::vector<ReminderSlot>& table) {
     return 0;
 }
 
+// An example for an exact date that names none is for the day of the first start.
+void Date_Examples(Day today) {
+    for (ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used || slot.Reminder.Peek().rs_DateType_Used != DateType::ExactDate ||
+            slot.Reminder.Peek().rs_SRLongday != 0)
+            continue;
+        const CalendarDate date = DayToDate(today);
+        slot.Reminder->rs_SRLongday = today;
+        slot.Reminder->rs_SRDay = static_cast<std::uint8_t>(date.day);
+        slot.Reminder->rs_SRMonth = static_cast<std::uint8_t>(date.month);
+        slot.Reminder->rs_SRYear = static_cast<std::int16_t>(date.year);
+    }
+}
+
 } // namespace
 
 void Init_Reminders() {
@@ -96,6 +110,7 @@ AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& e
         if (!files.Exists(exampleFile))
             return AccountLoad::NoFile;
         Load_Reminders(exampleFile);
+        Date_Examples(Get_TodayDay());
         return AccountLoad::Examples;
     }
     switch (Load_Reminders(fileName)) {

@@ -39,10 +39,12 @@ TEST_F(ReminderStore, AnEmptyTableIsSixteenBytesAndAFileOfItsOwn) {
 TEST_F(ReminderStore, ANewAccountGetsTheExamplesWhateverTheyAre) {
     EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::NoFile);
     EXPECT_EQ(Global_Reminders.size(), 51U);
-    Add_Reminder(4);
+    Add_Reminder(4).rs_DateType_Used = DateType::ExactDate; // and no date: for the first day
     ASSERT_TRUE(Save_Reminders(exampleFile));
     EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Examples);
     EXPECT_EQ(Used_Ids(), (std::vector<std::int32_t>{4}));
+    EXPECT_EQ(Global_Reminders[0].Reminder->GetNext_RunDate(), DateToDay(2, 3, 2026));
+    EXPECT_EQ(Global_Reminders[0].Reminder->rs_SRYear, 2026);
     files.content[exampleFile] = "broken";
     EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Examples);
     EXPECT_EQ(Global_Reminders.size(), 21U);
