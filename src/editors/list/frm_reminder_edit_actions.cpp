@@ -1,0 +1,78 @@
+// The buttons below the list.
+#include "controls/program_end.h"
+#include "delivery/deliver.h"
+#include "editors/list/card_list.h"
+#include "editors/list/copy_buffer.h"
+#include "editors/list/frm_reminder_edit.h"
+#include "editors/list/list_rules.h"
+#include "editors/list/misc_page.h"
+#include "platform/dialogs.h"
+
+using namespace Qt::StringLiterals;
+
+// The new reminder is not selected: the pages stay with the one that is.
+void frmReminderEdit::New_Click() {
+    Save_Selected_Icon();
+    const std::int32_t slot = Add_New_Reminder(Category_OfNew(filter));
+    UpdateReminderView();
+    Cards->Set_CurrentRow(Cards->Row_Of(ReminderRef::Of_Slot(slot)));
+}
+
+void frmReminderEdit::Delete_Click() {
+    const ReminderClass* reminder = selection.Peek();
+    if (reminder == nullptr)
+        return;
+    const ReminderRef doomed = selection;
+    const platform::Answer answer = platform::Dialogs::Get().Question(
+        u"Delete: "_s + reminder->rs_Title + u" ?"_s, false, {.Title = u"Confirm"_s});
+    if (answer != platform::Answer::Yes || Program_Is_Ending())
+        return;
+    Delete_ReminderSlot(doomed.Slot());
+    Drop_Selection();
+    Update_Category_Combos(FilterText::Keep);
+    UpdateReminderView();
+    Cards->setFocus();
+}
+
+void frmReminderEdit::Copy_Click() {
+    if (!Save_View_To_Reminder(CategoryOnSave::Take))
+        return;
+    const ReminderClass* reminder = selection.Peek();
+    if (reminder != nullptr && !Write_CopyBuffer(*reminder))
+        platform::Dialogs::Get().Message(u"The reminder can't be copied: the file \"temp.dat\" "
+                                         "can't be written"_s,
+                                         platform::BoxStyle::Exclamation);
+}
+
+void frmReminderEdit::Paste_Click() {
+    Save_Selected_Icon();
+    std::unique_ptr<ReminderClass> pasted;
+    switch (Read_CopyBuffer(pasted)) {
+    case PasteResult::Nothing:
+        return;
+    case PasteResult::Damaged:
+        platform::Dialogs::Get().Message(u"The copied reminder can't be read"_s,
+                                         platform::BoxStyle::Exclamation);
+        return;
+    case PasteResult::Pasted:
+        break;
+    }
+    pasted->rs_Category = Category_OfPasted(filter);
+    const std::int32_t slot = Take_FreeReminderSlot();
+    Global_Reminders[static_cast<std::size_t>(slot)] = {true, false, std::move(pasted)};
+    UpdateReminderView();
+    Cards->Set_CurrentRow(Cards->Row_Of(ReminderRef::Of_Slot(slot)));
+}
+
+void frmReminderEdit::Test_Click() {
+    if (Selected_Reminder() == nullptr || !Save_View_To_Reminder(CategoryOnSave::Keep) ||
+        Program_Is_Ending())
+        return;
+    if (const std::int32_t slot = selection.Slot(); slot != -1)
+        Deliver_Reminder(slot);
+}
+
+void frmReminderEdit::Save_Selected_Icon() {
+    if (ReminderClass* reminder = Selected_Reminder())
+        reminder->rs_Icon = Picture10->IconSelIMG->Selected_Name().trimmed().toLower();
+}

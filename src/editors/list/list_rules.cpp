@@ -1,0 +1,152 @@
+#include "editors/list/list_rules.h"
+
+#include "core/categories.h"
+#include "core/date_text.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+const QString FilterAll = u"-- (All)"_s;
+const QString FilterNone = u"-- (No category)"_s;
+const QString NoCategoryText = u"--"_s;
+
+namespace {
+
+const ReminderClass& Reminder_At(std::int32_t slot) {
+    return Global_Reminders[static_cast<std::size_t>(slot)].Reminder.Peek();
+}
+
+bool Same_Text(const QString& left, const QString& right) {
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+// Each word begins with a capital.
+QString Proper_Case(const QString& text) {
+    QString proper = text;
+    for (qsizetype at = 0; at < proper.size(); ++at)
+        if (at == 0 || proper[at - 1] == u' ')
+            proper[at] = proper[at].toUpper();
+    return proper;
+}
+
+bool Knows_AllCategories() {
+    QSet<QString> known;
+    for (const CategoryEntry& entry : Global_Categories)
+        known.insert(entry.Name);
+    for (const ReminderSlot& slot : Global_Reminders) {
+        if (!slot.Used || slot.Reminder.Peek().rs_Category.isEmpty())
+            continue;
+        const QString& category = slot.Reminder.Peek().rs_Category;
+        if (known.contains(category))
+            continue;
+        if (Find_Category(category) == -1)
+            return false;
+        known.insert(category);
+    }
+    return true;
+}
+
+} // namespace
+
+std::vector<std::int32_t> Visible_Slots(const QString& filter) {
+    const bool all = Same_Text(filter, FilterAll);
+    const QString category = Same_Text(filter, FilterNone) ? QString() : filter;
+    std::vector<std::int32_t> slots;
+    slots.reserve(all ? Global_Reminders.size() : 0);
+    const auto count = static_cast<std::int32_t>(Global_Reminders.size());
+    for (std::int32_t index = 0; index < count; ++index) {
+        const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
+        if (slot.Used && !slot.Pending &&
+            (all || Same_Text(slot.Reminder.Peek().rs_Category, category)))
+            slots.push_back(index);
+    }
+    return slots;
+}
+
+std::vector<std::int32_t> Keep_Category(const std::vector<std::int32_t>& slots,
+                                        const QString& category) {
+    QString wanted = category.trimmed();
+    if (Same_Text(wanted, FilterAll))
+        return slots;
+    if (Same_Text(wanted, FilterNone))
+        wanted.clear();
+    std::vector<std::int32_t> kept;
+    for (const std::int32_t slot : slots)
+        if (Global_Reminders[static_cast<std::size_t>(slot)].Used &&
+            Same_Text(Reminder_At(slot).rs_Category, wanted))
+            kept.push_back(slot);
+    return kept;
+}
+
+QString NextRun_Caption(Day nextRun) {
+    if (nextRun == NoDay)
+        return u"( )"_s;
+    return u'(' + DayToFriendlyString(nextRun) + u')';
+}
+
+Day NextRun_ForDisplay(const ReminderClass& reminder, const Moment& now) {
+    ReminderClass copy = reminder;
+    return copy.GetNext_RunDate(now);
+}
+
+QString Category_OfNew(const QString& filter) {
+    return Same_Text(filter, FilterNone) || Same_Text(filter, FilterAll) ? QString() : filter;
+}
+
+QString Category_OfPasted(const QString& filter) {
+    // "-- all" is not what the box holds: a paste under "-- (All)" takes that text for its
+    // category. That is meant.
+    return Same_Text(filter, FilterNone) || Same_Text(filter, u"-- all"_s) ? QString() : filter;
+}
+
+QString Category_FromText(const QString& text) {
+    const QString clean = Clean_CategoryText(text);
+    if (clean == NoCategoryText)
+        return {};
+    return clean == clean.toLower() ? Proper_Case(clean) : clean;
+}
+
+bool Is_SampleText(const QString& text) {
+    return text.isEmpty() || text == "..."_L1 || Same_Text(text, u"insert text here"_s);
+}
+
+QString Text_ForBox(const QString& recordText) {
+    QString text = recordText;
+    text.replace("\r\n"_L1, "\n"_L1);
+    return text.replace(u'\r', u'\n').replace(QChar::ParagraphSeparator, u'\n');
+}
+
+QString Text_ForRecord(const QString& boxText, const QString& recordText) {
+    if (boxText == Text_ForBox(recordText))
+        return recordText;
+    QString text = boxText;
+    return text.replace("\n"_L1, "\r\n"_L1);
+}
+
+void Sync_Categories() {
+    if (!Knows_AllCategories())
+        Sync_CategoriesFromReminders();
+}
+
+std::int32_t Add_New_Reminder(const QString& category) {
+    auto reminder = std::make_unique<ReminderClass>();
+    reminder->SetDefaultValues();
+    reminder->rs_ID = Get_NewReminderID(reminder->rs_ID2);
+    reminder->rs_Category = category;
+    const std::int32_t index = Take_FreeReminderSlot();
+    Global_Reminders[static_cast<std::size_t>(index)] = {true, false, std::move(reminder)};
+    return index;
+}
+
+std::vector<std::int32_t> Slots_OfCategory(const QString& name) {
+    std::vector<std::int32_t> slots;
+    const auto count = static_cast<std::int32_t>(Global_Reminders.size());
+    for (std::int32_t index = 0; index < count; ++index)
+        if (Global_Reminders[static_cast<std::size_t>(index)].Used &&
+            Same_Text(Reminder_At(index).rs_Category.trimmed(), name.trimmed()))
+            slots.push_back(index);
+    return slots;
+}

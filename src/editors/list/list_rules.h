@@ -1,0 +1,48 @@
+// The rules of the reminder list: which reminders a filter shows, what a card says, and what
+// becomes of a category's text.
+#pragma once
+
+#include "core/reminder_store.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <vector>
+
+// The first two items of the filter box, and the category box's word for none.
+extern const QString FilterAll;
+extern const QString FilterNone;
+extern const QString NoCategoryText;
+
+// Slots of the reminders that the filter shows, in the order of the table. filter: the text of the
+// filter box.
+std::vector<std::int32_t> Visible_Slots(const QString& filter);
+// The slots of rows whose reminder is of the category. "-- (All)" keeps all.
+std::vector<std::int32_t> Keep_Category(const std::vector<std::int32_t>& slots,
+                                        const QString& category);
+
+// What a card says beside its title: "(Tomorrow)", "( )" for -1.
+QString NextRun_Caption(Day nextRun);
+// Asks a copy, so that looking at a reminder leaves its cycle unstarted.
+Day NextRun_ForDisplay(const ReminderClass& reminder, const Moment& now);
+
+// The category that a reminder made, or pasted, under a filter gets.
+QString Category_OfNew(const QString& filter);
+QString Category_OfPasted(const QString& filter);
+// What the category box's text becomes in the record.
+QString Category_FromText(const QString& text);
+
+// A text that only stands for one still to be typed.
+bool Is_SampleText(const QString& text);
+// A box breaks lines with LF, a record with CR LF. A text that was not edited stays as it was,
+// whatever breaks its lines.
+QString Text_ForBox(const QString& recordText);
+QString Text_ForRecord(const QString& boxText, const QString& recordText);
+
+// Adds the categories that reminders use and the table lacks; quick when there are none.
+void Sync_Categories();
+// A used reminder with a new number and default values; the slot.
+std::int32_t Add_New_Reminder(const QString& category);
+
+// Slots of the used reminders of a category. name without regard to case.
+std::vector<std::int32_t> Slots_OfCategory(const QString& name);

@@ -1,0 +1,247 @@
+#include "editors/pages/date_record.h"
+
+#include "core/date_text.h"
+
+using namespace Qt::StringLiterals;
+using namespace date_box;
+
+namespace {
+
+constexpr int LargestInterval = 99; // weeks or days
+constexpr int LargestDayOfMonth = 31;
+
+// A whole number from 1 to the limit; 0 for anything else.
+int Number_UpTo(const QString& text, int limit) {
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    return isNumber && number >= 1 && number <= limit ? number : 0;
+}
+
+std::int32_t Months_Since2000(std::int32_t year, std::int32_t month) {
+    return (year - 2000) * 12 + month;
+}
+
+void Clear_DateSetup(ReminderClass& reminder) {
+    reminder.Set_Rs_Rdays({});
+    reminder.rs_REveryDay = false;
+    reminder.rs_ReWeeks = 0;
+    reminder.rs_ReMonths = 0;
+    reminder.rs_ReDays = 0;
+    reminder.rs_SRDay = 0;
+    reminder.rs_SRMonth = 0;
+    reminder.rs_SRYear = 0;
+    reminder.rs_SRLongday = 0;
+    reminder.rs_ActivationDay = 0;
+    reminder.rs_REDayOfMonth = 0;
+}
+
+void Save_EveryDay(ReminderClass& reminder) {
+    reminder.rs_DateType_Used = DateType::EveryDay;
+    reminder.rs_REveryDay = true;
+}
+
+// The walk ends at Saturday, and that is meant: a Sunday ticked on this page is not saved.
+std::array<std::uint8_t, 8> Ticked_Weekdays(const DatePageState& state) {
+    std::array<std::uint8_t, 8> days{};
+    for (int box = Monday; box <= Saturday; ++box)
+        days[static_cast<std::size_t>(box - Monday)] = state.Tick(box) ? 1 : 0;
+    return days;
+}
+
+std::optional<DateFault> Save_Weekdays(const DatePageState& state, ReminderClass& reminder) {
+    reminder.Set_Rs_Rdays(Ticked_Weekdays(state));
+    reminder.rs_DateType_Used = DateType::Weekdays;
+    if (!state.Tick(Weeks))
+        return std::nullopt;
+    reminder.rs_ReWeeks = static_cast<std::int16_t>(Number_UpTo(state.Text1, LargestInterval));
+    if (reminder.rs_ReWeeks == 0)
+        return DateFault{u"Invalid Every X weeks value"_s, ErrorMark::Weeks};
+    return std::nullopt;
+}
+
+// Days and the day of the month share one message and one mark: that is meant.
+DateFault Invalid_Days() {
+    return {u"Invalid Every X days value"_s, ErrorMark::Days};
+}
+
+std::optional<DateFault> Save_EveryXDays(const DatePageState& state, ReminderClass& reminder) {
+    const int days = Number_UpTo(state.Text3, LargestInterval);
+    if (days == 0)
+        return Invalid_Days();
+    reminder.rs_ReDays = static_cast<std::int16_t>(days);
+    reminder.rs_DateType_Used = DateType::EveryXDays;
+    return std::nullopt;
+}
+
+std::optional<DateFault> Save_DayOfMonth(const DatePageState& state, ReminderClass& reminder) {
+    const int day = Number_UpTo(DigitsOnly(state.Text2), LargestDayOfMonth);
+    if (day == 0)
+        return Invalid_Days();
+    reminder.rs_REDayOfMonth = day;
+    reminder.rs_DateType_Used = DateType::DayOfMonth;
+    return std::nullopt;
+}
+
+void Set_ExactDate(ReminderClass& reminder, Day day, const CalendarDate& date) {
+    reminder.rs_SRDay = static_cast<std::uint8_t>(date.day);
+    reminder.rs_SRMonth = static_cast<std::uint8_t>(date.month);
+    reminder.rs_SRYear = static_cast<std::int16_t>(date.year);
+    reminder.rs_SRLongday = day;
+    reminder.rs_DateType_Used = DateType::ExactDate;
+}
+
+// A text without a year is the same date every year, whether "Every year" is ticked or not.
+std::optional<DateFault> Save_TypedDate(const DatePageState& state, ReminderClass& reminder,
+                                        const Moment& now) {
+    CalendarDate date;
+    const QString& text = state.Text4[ExactField];
+    const bool read = ParseUserDate(text, date.day, date.month, date.year, {}, true) == 0;
+    const std::int32_t year = date.year == 0 ? now.Year : date.year;
+    const Day day = read ? DateToDay(date.day, date.month, year) : NoDay;
+    if (day == NoDay)
+        return DateFault{u"Invalid (Days setup) Exact date: \r\n"_s + text, ErrorMark::ExactField};
+    Set_ExactDate(reminder, day, date.year == 0 ? date : DayToDate(day));
+    return std::nullopt;
+}
+
+std::optional<DateFault> Save_ExactDate(const DatePageState& state, int box,
+                                        ReminderClass& reminder, const Moment& now) {
+    if (box == OnDate)
+        return Save_TypedDate(state, reminder, now);
+    Day day = now.Today;
+    if (box == Tomorrow)
+        ++day;
+    else if (box >= ExactMonday)
+        day = Weekday_Day(now, state.Option1[ExactNext], box - ExactMonday + 1);
+    if (day == NoDay)
+        return DateFault{u"Selected (Days setup->Exact date) day is invalid"_s,
+                         ErrorMark::ExactWeekdays};
+    Set_ExactDate(reminder, day, DayToDate(day));
+    return std::nullopt;
+}
+
+std::optional<DateFault> Save_DateRule(const DatePageState& state, ReminderClass& reminder,
+                                       const Moment& now) {
+    if (!state.Tick(EveryDay)) {
+        if (Ticked_Weekdays(state) != std::array<std::uint8_t, 8>{})
+            return Save_Weekdays(state, reminder);
+        if (state.Tick(EveryXDays))
+            return Save_EveryXDays(state, reminder);
+        if (state.Tick(date_box::DayOfMonth))
+            return Save_DayOfMonth(state, reminder);
+        if (const std::optional<int> box = Exact_Tick(state))
+            return Save_ExactDate(state, *box, reminder, now);
+    }
+    // Nothing ticked, or Sunday alone, is every day as well.
+    Save_EveryDay(reminder);
+    return std::nullopt;
+}
+
+// A new start date begins the cycles of days and weeks again.
+void Start_Cycles(const DatePageState& state, ReminderClass& reminder, Day before,
+                  const Moment& now) {
+    const Day start = reminder.rs_ActivationDay;
+    if (start != before) {
+        const CalendarDate date =
+            start == 0 ? CalendarDate{now.DayOfMonth, now.Month, now.Year} : DayToDate(start);
+        reminder.rs_FirstRunDate = start == 0 ? now.Today : start;
+        reminder.rs_wDaysArray_LWeek = DayToWeek(reminder.rs_FirstRunDate);
+        reminder.rs_wDaysArray_LMonth = Months_Since2000(date.year, date.month);
+    } else if (start == 0 && state.Tick(Weeks) && reminder.rs_wDaysArray_LWeek == 0) {
+        reminder.rs_wDaysArray_LWeek = now.Week;
+    }
+}
+
+} // namespace
+
+Day Get_Start_Date(const DatePageState& state, const Moment& now, DateFault& fault) {
+    if (state.Tick(AlwaysActive))
+        return 0;
+    Day start = 0;
+    if (state.Tick(StartTomorrow))
+        start = now.Today + 1;
+    if (state.Tick(StartOn)) {
+        start = ParseUserDateToDay(state.Text4[StartField], {});
+        if (start == NoDay) {
+            fault = {u"Invalid (Days setup) start date: \r\n"_s + state.Text4[StartField],
+                     ErrorMark::StartField};
+            return StartDate_Failed;
+        }
+    }
+    for (int box = StartMonday; box <= StartSunday; ++box) {
+        if (!state.Tick(box))
+            continue;
+        start = Weekday_Day(now, state.Option1[StartNext], box - StartMonday + 1);
+        if (start == NoDay) {
+            fault = {u"Selected (days setup) start day is invalid"_s, ErrorMark::StartWeekdays};
+            return StartDate_Failed;
+        }
+    }
+    return start;
+}
+
+std::optional<DateFault> Save_DateSetup(const DatePageState& state, ReminderClass& reminder,
+                                        const Moment& now) {
+    const Day before = reminder.rs_ActivationDay;
+    Clear_DateSetup(reminder);
+    if (auto fault = Save_DateRule(state, reminder, now))
+        return fault;
+    DateFault fault;
+    const Day start = Get_Start_Date(state, now, fault);
+    if (start == StartDate_Failed)
+        return fault;
+    reminder.rs_ActivationDay = start;
+    Start_Cycles(state, reminder, before, now);
+    return std::nullopt;
+}
+
+DatePageState Cleared_DatePage(const Moment& now) {
+    DatePageState state;
+    state.Text1 = u"2"_s;
+    state.Text2 = u"2nd"_s;
+    state.Text3 = u"2"_s;
+    state.Text4.fill(DayToDateString(now.Today));
+    return state;
+}
+
+// The boxes "Today", "Tomorrow" and the weekdays of a date are never ticked here: they are ways to
+// enter a date, and the record holds the date itself.
+DatePageState Load_DateSetup(const ReminderClass& reminder, const Moment& now) {
+    DatePageState state = Cleared_DatePage(now);
+    state.Tick(EveryDay) = reminder.rs_REveryDay;
+    const std::array<std::uint8_t, 8> days = reminder.Get_Rs_Rdays();
+    for (int box = Monday; box <= Sunday; ++box)
+        state.Tick(box) = days[static_cast<std::size_t>(box - Monday)] != 0;
+    if (reminder.rs_ReWeeks != 0) {
+        state.Tick(Weeks) = true;
+        state.Text1 = QString::number(reminder.rs_ReWeeks);
+    }
+    if (reminder.rs_ReDays != 0) {
+        state.Tick(EveryXDays) = true;
+        state.Text3 = QString::number(reminder.rs_ReDays);
+    }
+    if (reminder.rs_REDayOfMonth != 0) {
+        state.Tick(date_box::DayOfMonth) = true;
+        state.Text2 = OrdinalText(reminder.rs_REDayOfMonth);
+    }
+    if (reminder.rs_SRLongday != 0) {
+        state.Tick(OnDate) = true;
+        state.Tick(EveryYear) = reminder.rs_SRYear == 0;
+        state.Text4[ExactField] =
+            FormatUserDate(reminder.rs_SRDay, reminder.rs_SRMonth, reminder.rs_SRYear, true);
+    }
+    if (reminder.rs_ActivationDay != 0) {
+        state.Tick(StartOn) = true;
+        state.Text4[StartField] = DayToDateString(reminder.rs_ActivationDay);
+    } else {
+        state.Tick(AlwaysActive) = true;
+    }
+    return state;
+}
+
+QString DateSetup_Warning(const ReminderClass& reminder) {
+    if (reminder.rs_ReMonths == 0)
+        return {};
+    return u"Every X months option is no longer supported this version of Tockly.\r\n"_s
+           u"Please select another date"_s;
+}

@@ -1,0 +1,159 @@
+#include "editors/pages/date_rules.h"
+
+#include "core/date_text.h"
+
+#include <algorithm>
+
+using namespace date_box;
+
+namespace {
+
+constexpr std::int32_t LastCalendarYear = 2099;
+
+void Clear_Boxes(DatePageState& state, int first, int last) {
+    std::fill(state.Ticks.begin() + first, state.Ticks.begin() + last + 1, false);
+}
+
+// Radio behaviour by hand: everything in the range but one goes.
+void Clear_Others(DatePageState& state, int first, int last, int kept) {
+    const bool was = state.Tick(kept);
+    Clear_Boxes(state, first, last);
+    state.Tick(kept) = was;
+}
+
+// The choice alone: the days that have passed are blocked by a click on "This:" only, and until
+// then it is the save that refuses them.
+void Choose_Week_If_None(DatePageState& state, WeekOption thisWeek) {
+    const auto at = static_cast<std::size_t>(thisWeek);
+    if (!state.Option1[at] && !state.Option1[at + 1])
+        state.Option1[at] = true;
+}
+
+void Exact_Checked(DatePageState& state, int box) {
+    const bool everyYear = state.Tick(EveryYear);
+    Clear_Others(state, EveryDay, StartSunday, box);
+    state.Tick(EveryYear) = everyYear;
+    // An exact date has no start date.
+    state.Tick(AlwaysActive) = true;
+    if (box >= ExactMonday)
+        Choose_Week_If_None(state, ExactThis);
+}
+
+TickOutcome Start_Checked(DatePageState& state, int box) {
+    if (box != AlwaysActive && Exact_Tick(state)) {
+        state.Tick(box) = false;
+        return TickOutcome::StartDateRefused;
+    }
+    Clear_Others(state, AlwaysActive, StartSunday, box);
+    if (box >= StartMonday)
+        Choose_Week_If_None(state, StartThis);
+    return TickOutcome::Taken;
+}
+
+// Day and month of the text in the exact field.
+std::optional<CalendarDate> Typed_Date(const DatePageState& state, const Moment& now) {
+    CalendarDate date;
+    if (ParseUserDate(state.Text4[ExactField], date.day, date.month, date.year, {}, true) != 0)
+        return std::nullopt;
+    if (date.year == 0)
+        date.year = now.Year;
+    else if (DateToDay(date.day, date.month, date.year) == NoDay)
+        return std::nullopt;
+    return date;
+}
+
+std::optional<CalendarDate> Exact_Date(const DatePageState& state, MakeEveryYear make,
+                                       const Moment& now) {
+    const std::optional<int> box = Exact_Tick(state);
+    if (!box)
+        return std::nullopt;
+    if (*box == OnDate)
+        return Typed_Date(state, now);
+    if (make == MakeEveryYear::No)
+        return std::nullopt;
+    Day day = now.Today;
+    if (*box == Tomorrow)
+        ++day;
+    else if (*box >= ExactMonday)
+        day = Weekday_Day(now, state.Option1[ExactNext], *box - ExactMonday + 1);
+    return day == NoDay ? std::nullopt : std::optional(DayToDate(day));
+}
+
+} // namespace
+
+TickOutcome Date_Option_Checked(DatePageState& state, int box, const Moment& now) {
+    if (box >= AlwaysActive)
+        return Start_Checked(state, box);
+    if (box == EveryDay) {
+        Clear_Boxes(state, Monday, EveryYear);
+    } else if (box <= Weeks) {
+        state.Tick(EveryDay) = false;
+        Clear_Boxes(state, DayOfMonth, EveryYear);
+    } else if (box <= EveryXDays) {
+        Clear_Others(state, EveryDay, EveryYear, box);
+    } else if (box <= ExactSunday) {
+        Exact_Checked(state, box);
+    } else if (ExactDate_To_Text4(state, MakeEveryYear::Yes, now)) {
+        Clear_Boxes(state, EveryDay, ExactSunday);
+        state.Tick(OnDate) = true;
+    } else {
+        state.Tick(EveryYear) = false;
+    }
+    return TickOutcome::Taken;
+}
+
+void Date_Option_Unchecked(DatePageState& state, int box, const Moment& now) {
+    if (box == EveryYear)
+        ExactDate_To_Text4(state, MakeEveryYear::No, now);
+}
+
+void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& now) {
+    const bool exact = option == ExactThis || option == ExactNext;
+    const bool next = option == ExactNext || option == StartNext;
+    const std::size_t first = exact ? ExactThis : StartThis;
+    state.Option1[first] = !next;
+    state.Option1[first + 1] = next;
+    const int monday = exact ? ExactMonday : StartMonday;
+    for (int weekday = 0; weekday < 7; ++weekday) {
+        const auto box = static_cast<std::size_t>(monday + weekday);
+        state.Blocked[box] = !next && weekday < now.Weekday;
+        if (state.Blocked[box])
+            state.Ticks[box] = false;
+    }
+}
+
+bool ExactDate_To_Text4(DatePageState& state, MakeEveryYear make, const Moment& now) {
+    const std::optional<CalendarDate> date = Exact_Date(state, make, now);
+    if (!date)
+        return false;
+    const bool everyYear = make == MakeEveryYear::Yes;
+    state.Text4[ExactField] =
+        FormatUserDate(date->day, date->month, everyYear ? 0 : now.Year, everyYear);
+    return true;
+}
+
+std::optional<int> Exact_Tick(const DatePageState& state) {
+    for (int box = date_box::Today; box <= ExactSunday; ++box)
+        if (state.Tick(box))
+            return box;
+    return std::nullopt;
+}
+
+Day Weekday_Day(const Moment& now, bool nextWeek, int weekday) {
+    const int present = now.Weekday + 1;
+    if (!nextWeek && present > weekday)
+        return NoDay;
+    return now.Today + weekday + (nextWeek ? 7 : 0) - present;
+}
+
+CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now) {
+    CalendarDate date;
+    const bool read = ParseUserDate(state.Text4[field], date.day, date.month, date.year, {},
+                                    field == ExactField) == 0;
+    if (read && date.year == 0)
+        date.year = now.Year;
+    if (!read || date.year > LastCalendarYear ||
+        DateToDay(date.day, date.month, date.year) == NoDay)
+        return {0, now.Month, now.Year};
+    return date;
+}

@@ -1,0 +1,130 @@
+#include "editors/pages/page_controls.h"
+
+#include "controls/metrics.h"
+#include "controls/painting.h"
+#include "controls/wb_button.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr ColorValue HotText = 0xFF0000;
+constexpr int MarkGap = 2;
+
+} // namespace
+
+QLabel* pages::Add_Caption(const QString& text, int left, int top, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setFont(Small_Font());
+    label->setTextFormat(Qt::PlainText);
+    label->adjustSize();
+    label->move(left, top);
+    return label;
+}
+
+QLabel* pages::Add_Heading(const QString& text, int left, int top, QWidget* parent) {
+    QLabel* label = Add_Caption(text, left, top, parent);
+    QFont font = Small_Font();
+    font.setBold(true);
+    label->setFont(font);
+    label->adjustSize();
+    return label;
+}
+
+wbButton* pages::Add_Button(const QString& caption, const QRect& place, QWidget* parent) {
+    auto* button = new wbButton(parent);
+    button->setGeometry(place);
+    button->Set_Caption(caption);
+    return button;
+}
+
+void pages::Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength) {
+    field->setFont(Small_Font());
+    field->setGeometry(place);
+    field->setMaxLength(maxLength);
+    field->setAccessibleName(name);
+}
+
+void pages::Show_Text(QLineEdit* field, const QString& text) {
+    if (field->text() != text)
+        field->setText(text);
+}
+
+Shape::Shape(const QRect& place, const Look& shown, QWidget* parent)
+    : QWidget(parent), look(shown) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(place);
+}
+
+void Shape::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (look.Fill)
+        painter.fillRect(rect(), palette::To_Color(*look.Fill));
+    for (int inset = 0; inset < look.Thickness; ++inset)
+        Draw_Frame(painter, rect().adjusted(inset, inset, -inset, -inset),
+                   palette::To_Color(look.Border));
+}
+
+Shape* Make_ErrorShape(const QRect& around, QWidget* parent) {
+    const QRect place = around.adjusted(-MarkGap, -MarkGap, MarkGap, MarkGap);
+    auto* shape = new Shape(place, {std::nullopt, pages::Error_Red, MarkGap}, parent);
+    shape->hide();
+    return shape;
+}
+
+void TimeField::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        Q_EMIT Clicked();
+}
+
+void TimeField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    Q_EMIT Got_Focus();
+}
+
+void TimeField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason)
+        Q_EMIT Lost_Focus();
+}
+
+HrDelLabel::HrDelLabel(QWidget* parent) : QPushButton(u"x"_s, parent) {
+    setFont(Small_Font());
+    setMouseTracking(true);
+    setToolTip(u"Delete"_s);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void HrDelLabel::Set_Hot(bool value) {
+    hot = value;
+    update();
+}
+
+void HrDelLabel::mouseMoveEvent(QMouseEvent* event) {
+    QPushButton::mouseMoveEvent(event);
+    Q_EMIT Mouse_Over();
+}
+
+void HrDelLabel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void HrDelLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const bool marked = hot || (hasFocus() && window()->isActiveWindow());
+    QFont font = Small_Font();
+    font.setUnderline(marked);
+    painter.setFont(font);
+    painter.setPen(palette::To_Color(marked ? HotText : palette::Black));
+    painter.drawText(rect(), Qt::AlignCenter, text());
+}

@@ -1,0 +1,90 @@
+// The small controls that the pages are made of: rectangles, labels, fields for times, and the "x"
+// of a row.
+#pragma once
+
+#include "controls/palette.h"
+
+#include <QColor>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include <optional>
+
+class QLabel;
+class wbButton;
+
+namespace pages {
+inline constexpr ColorValue Field_Back = 0xFFC0C0; // of what is typed on the date page
+inline constexpr ColorValue Frame_Border = 0xC0C0C0;
+inline constexpr ColorValue Error_Red = 0x0000FF;
+inline constexpr int FieldHeight = 21;
+inline constexpr int ButtonHeight = 23;
+
+// A label that is as wide as its text; bold for a heading.
+QLabel* Add_Caption(const QString& text, int left, int top, QWidget* parent);
+QLabel* Add_Heading(const QString& text, int left, int top, QWidget* parent);
+wbButton* Add_Button(const QString& caption, const QRect& place, QWidget* parent);
+// name: what a screen reader says.
+void Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength);
+// Leaves the cursor where it is when the text is there already.
+void Show_Text(QLineEdit* field, const QString& text);
+} // namespace pages
+
+// A rectangle without input: a group's frame, a highlight behind it, or a mark around a field.
+class Shape : public QWidget {
+public:
+    struct Look {
+        std::optional<ColorValue> Fill;
+        ColorValue Border = pages::Frame_Border;
+        int Thickness = 1; // pixels
+    };
+    Shape(const QRect& place, const Look& look, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Look look;
+};
+
+// A hidden red rectangle two pixels around the place.
+Shape* Make_ErrorShape(const QRect& around, QWidget* parent);
+
+// A field that tells of clicks and of the focus: the clock comes and goes by them.
+class TimeField : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit TimeField(QWidget* parent) : QLineEdit(parent) {}
+
+Q_SIGNALS:
+    void Clicked();
+    void Got_Focus();
+    // Not when the field's own popup menu takes it.
+    void Lost_Focus();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+// "x": blue and underlined while the mouse is over it, or the focus on it.
+class HrDelLabel : public QPushButton {
+    Q_OBJECT
+public:
+    explicit HrDelLabel(QWidget* parent);
+    void Set_Hot(bool value);
+    bool Is_Hot() const { return hot; }
+
+Q_SIGNALS:
+    void Mouse_Over();
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool hot = false;
+};

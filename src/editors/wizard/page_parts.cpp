@@ -1,0 +1,184 @@
+#include "editors/wizard/page_parts.h"
+
+#include "controls/chk_box.h"
+#include "controls/form.h"
+#include "controls/icons.h"
+#include "controls/metrics.h"
+#include "controls/wb_button.h"
+#include "core/categories.h"
+#include "editors/list/plain_text.h"
+#include "platform/record_text.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QValidator>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace page_parts {
+
+namespace {
+
+constexpr int OptionHeight = 18;
+constexpr int CalendarButtonWidth = 136;
+constexpr ColorValue HintColor = 0x606060;
+constexpr ColorValue MarkColor = 0xC0C0FF;
+
+// Stops at what a stored text can hold, and at characters that the field does not take.
+class FieldValidator : public QValidator {
+public:
+    FieldValidator(std::function<bool(QChar)> characters, QObject* parent)
+        : QValidator(parent), allowed(std::move(characters)) {}
+    State validate(QString& text, int&) const override {
+        const bool taken = !allowed || std::all_of(text.begin(), text.end(), allowed);
+        return taken && Fits_RecString(text) ? Acceptable : Invalid;
+    }
+
+private:
+    std::function<bool(QChar)> allowed;
+};
+
+void Stop_WhenFull(QPlainTextEdit* memo) {
+    auto fitting = std::make_shared<QString>();
+    QObject::connect(memo, &QPlainTextEdit::textChanged, memo, [memo, fitting] {
+        if (Fits_RecString(Memo_Text(memo))) {
+            *fitting = Plain_Text(*memo);
+            return;
+        }
+        const int place = memo->textCursor().position();
+        memo->setPlainText(*fitting);
+        QTextCursor cursor = memo->textCursor();
+        cursor.setPosition(std::min(place, static_cast<int>(fitting->size())));
+        memo->setTextCursor(cursor);
+    });
+}
+
+} // namespace
+
+QLabel* Add_Text(QWidget* parent, const QString& text, int left, int top, int width,
+                 TextLook look) {
+    auto* label = new QLabel(text, parent);
+    QFont font = Small_Font();
+    font.setBold(look == TextLook::Heading);
+    label->setFont(font);
+    label->setTextFormat(Qt::PlainText);
+    if (look == TextLook::Hint) {
+        QPalette colors = Form_Palette();
+        colors.setColor(QPalette::WindowText, palette::To_Color(HintColor));
+        label->setPalette(colors);
+    }
+    label->move(left, top);
+    if (width > 0) {
+        label->setWordWrap(true);
+        label->setFixedWidth(width);
+        label->resize(width, std::max(SmallLineHeight, label->heightForWidth(width)));
+    } else {
+        label->adjustSize();
+    }
+    return label;
+}
+
+QLineEdit* Add_Field(QWidget* parent, const QString& name, const QString& spoken,
+                     const QRect& place) {
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(name);
+    field->setAccessibleName(spoken);
+    field->setFont(Small_Font());
+    field->setGeometry(place);
+    Allow_Only(field, nullptr);
+    return field;
+}
+
+QPlainTextEdit* Add_Memo(QWidget* parent, const QString& name, const QString& spoken,
+                         const QRect& place) {
+    auto* memo = new QPlainTextEdit(parent);
+    memo->setObjectName(name);
+    memo->setAccessibleName(spoken);
+    memo->setFont(Small_Font());
+    memo->setTabChangesFocus(true);
+    memo->setGeometry(place);
+    Stop_WhenFull(memo);
+    return memo;
+}
+
+QRadioButton* Add_Option(QWidget* parent, const QString& name, const QString& caption, int left,
+                         int top) {
+    auto* button = new QRadioButton(caption, parent);
+    button->setObjectName(name);
+    button->setFont(Small_Font());
+    button->setGeometry(left, top, button->sizeHint().width(), OptionHeight);
+    return button;
+}
+
+ChkBox* Add_Check(QWidget* parent, const QString& name, const QString& caption, int left, int top,
+                  std::function<void(bool on)> ticked) {
+    auto* box = new ChkBox(caption, left, top, parent);
+    box->setObjectName(name);
+    QObject::connect(box, &ChkBox::Checked, box, [ticked] { ticked(true); });
+    QObject::connect(box, &ChkBox::Unchecked, box, [ticked] { ticked(false); });
+    return box;
+}
+
+wbButton* Add_Button(QWidget* parent, const QString& name, const QString& caption,
+                     const QRect& place) {
+    auto* button = new wbButton(parent);
+    button->setObjectName(name);
+    button->setGeometry(place);
+    button->Set_Caption(caption);
+    return button;
+}
+
+wbButton* Add_CalendarButton(QWidget* parent, const QString& name, const QPoint& place) {
+    wbButton* button = Add_Button(parent, name, u"Open calendar..."_s,
+                                  {place, QSize(CalendarButtonWidth, ButtonHeight)});
+    button->Set_Picture(Load_Icon(IconName::Calendar), QSize(16, 16));
+    button->Set_ImageLEFT(5);
+    button->Set_ImageTOP((ButtonHeight - 16) / 2);
+    return button;
+}
+
+QComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
+    auto* box = new QComboBox(parent);
+    box->setObjectName(u"Combo1"_s);
+    box->setAccessibleName(u"Category"_s);
+    box->setFont(Small_Font());
+    box->setGeometry(place);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setValidator(new FieldValidator(nullptr, box));
+    box->addItem(u"--"_s);
+    for (const CategoryEntry& entry : Global_Categories) {
+        if (entry.Name.isEmpty())
+            break;
+        box->addItem(entry.Name);
+    }
+    box->setEditText(u"--"_s);
+    return box;
+}
+
+void Allow_Only(QLineEdit* field, std::function<bool(QChar)> allowed) {
+    field->setValidator(new FieldValidator(std::move(allowed), field));
+}
+
+QString Memo_Text(const QPlainTextEdit* memo) {
+    return Plain_Text(*memo).replace("\n"_L1, "\r\n"_L1);
+}
+
+void Set_MemoText(QPlainTextEdit* memo, const QString& text) {
+    memo->setPlainText(QString(text).replace("\r\n"_L1, "\n"_L1));
+}
+
+void Mark_Field(QLineEdit* field, bool marked) {
+    QPalette colors = Form_Palette();
+    if (marked)
+        colors.setColor(QPalette::Base, palette::To_Color(MarkColor));
+    field->setPalette(colors);
+}
+
+} // namespace page_parts

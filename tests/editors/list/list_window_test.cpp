@@ -1,0 +1,362 @@
+// The window as its user meets it: by events, and by what is then in the table.
+#include "core/record_stream.h"
+#include "editors/list/click_label.h"
+#include "editors/list/frm_re_function_edit.h"
+#include "editors/pages/date_page.h"
+#include "list_fixture.h"
+
+#include <QScrollBar>
+
+namespace {
+
+class ListWindow : public ListTest {
+protected:
+    // A number of weeks that no save takes.
+    void Spoil_Date(frmReminderEdit& window) {
+        Named<ChkBox>(window.Picture2, u"Each: Monday"_s)->Toggle();
+        Named<ChkBox>(window.Picture2, u"Every X Weeks"_s)->Toggle();
+        Type(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"0"_s);
+    }
+    void Expect_Refusal() { dialogs.Expect_Message(u"Invalid Every X weeks value"_s); }
+    static std::string Record_Of(const ReminderClass& reminder) {
+        RecordWriter stream;
+        reminder.SaveData_To_File(stream);
+        return stream.Bytes();
+    }
+    ReminderClass& Add_Kind(const QString& title, DateType kind) {
+        ReminderClass& reminder = Reminder(Add(title, u"Work"_s));
+        reminder.rs_DateType_Used = kind;
+        reminder.rs_REveryDay = kind == DateType::EveryDay;
+        return reminder;
+    }
+};
+
+TEST_F(ListWindow, A_reminder_of_every_kind_goes_through_the_pages_unchanged) {
+    Add_Kind(u"every day"_s, DateType::EveryDay);
+    ReminderClass& weeks = Add_Kind(u"weeks"_s, DateType::Weekdays);
+    weeks.rs_wDays = {1, 0, 0, 0, 0, 1, 0, 0};
+    weeks.rs_ReWeeks = 3;
+    weeks.rs_ActivationDay = Monday + 30;
+    Add_Kind(u"days"_s, DateType::EveryXDays).rs_ReDays = 5;
+    ReminderClass& exact = Add_Kind(u"exact"_s, DateType::ExactDate);
+    exact.rs_SRDay = 4;
+    exact.rs_SRMonth = 3;
+    exact.rs_SRYear = 2026;
+    exact.rs_SRLongday = Monday + 2;
+    ReminderClass& month = Add_Kind(u"month"_s, DateType::DayOfMonth);
+    month.rs_REDayOfMonth = 21;
+    month.rs_Reminder_Type = ReminderType::Centered;
+    month.rs_Minimize_Apps = true;
+    month.rs_PlaySound = false;
+    month.rs_SoundPath = u"/home/a\u00a0b.ogg"_s;
+    month.rs_Text = u"one\r\ntwo\nthree\u00a0four"_s;
+    month.rs_Icon = u"Gift"_s;
+    month.SetFuncion(3, {true, FunctionType::OpenFile, 2, u"c:\\x"_s, u"Open"_s});
+    month.AddNewHourSetup({-1, -1, 0, 0});
+    month.AddNewHourSetup({0, 60, 120, 15});
+    month.AddNewHourSetup({-1, -1, 900, 90});
+    std::vector<std::string> before;
+    for (std::int32_t slot = 0; slot < 5; ++slot) {
+        Open().SelectReminder_Using_RListIndex(slot);
+        before.push_back(Record_Of(Reminder(slot)));
+    }
+    Open().SelectReminder_Using_RListIndex(0); // saves the last one
+    for (std::int32_t slot = 0; slot < 5; ++slot) {
+        if (slot != 2) { // of days: a first run is set when it is saved
+            EXPECT_EQ(Record_Of(Reminder(slot)), before[static_cast<std::size_t>(slot)])
+                << Reminder(slot).rs_Title.toStdString();
+        }
+        EXPECT_EQ(Reminder(slot).rs_Title, Titles()[slot]);
+    }
+    EXPECT_EQ(Reminder(2).rs_ReDays, 5);
+}
+
+TEST_F(ListWindow, Cards_tell_title_text_and_next_run_and_wear_the_record_s_state) {
+    Add(u"plain"_s);
+    Reminder(Add(u"never"_s)).rs_REveryDay = false;
+    Reminder(1).rs_Enabled = false;
+    Reminder(Add(u"today off"_s)).rs_DisabledForToday = Monday;
+    Open();
+    EXPECT_EQ(Card(u"plain"_s)->Content().NextRun, u"(Today)"_s);
+    EXPECT_TRUE(Card(u"plain"_s)->Content().RunsToday);
+    EXPECT_EQ(Card(u"never"_s)->Content().NextRun, u"( )"_s);
+    EXPECT_EQ(Card(u"never"_s)->Content().Colors, IconColors::Grey);
+    EXPECT_TRUE(Card(u"today off"_s)->Content().DisabledForToday);
+    EXPECT_FALSE(Card(u"today off"_s)->p1ChkImage->Is_Ticked());
+    Card(u"today off"_s)->p1ChkImage->Toggle();
+    EXPECT_EQ(Reminder(2).rs_DisabledForToday, 0);
+    EXPECT_FALSE(Card(u"today off"_s)->Content().DisabledForToday);
+    Card(u"plain"_s)->p1ChkImage->Toggle();
+    EXPECT_FALSE(Reminder(0).rs_Enabled);
+    // The day goes on while the window is open.
+    Open_On(2);
+    clock.Advance(24 * 3600 * 1000);
+    Reminder(2).rs_DisabledForToday = Monday + 1;
+    Open().Refresh_View();
+    EXPECT_TRUE(Card(u"today off"_s)->Content().DisabledForToday);
+}
+
+TEST_F(ListWindow, Ten_thousand_reminders_have_as_many_controls_as_ten) {
+    const auto Controls = [this](int count) {
+        Close();
+        Init_Reminders();
+        for (int number = 0; number < count; ++number)
+            Global_Reminders.push_back({true, false, std::make_unique<ReminderClass>()});
+        return Open().findChildren<QWidget*>().size();
+    };
+    const auto few = Controls(10);
+    EXPECT_EQ(Controls(10000), few);
+    Global_Reminders.back().Reminder->rs_Title = u"the last"_s;
+    CardList* list = Open().Cards;
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_End);
+    EXPECT_EQ(list->VScroll2->value(), 10000 * 73 - list->height());
+    ASSERT_NE(Card(u"the last"_s), nullptr);
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(Selected_Title(), u"the last"_s);
+    EXPECT_EQ(Open().SelectedRow(), 9999);
+}
+
+TEST_F(ListWindow, Title_and_text_reach_record_and_card_as_they_are_typed) {
+    frmReminderEdit& window = Open_On(Add(u"Reminder"_s));
+    window.Show_Page(EditPage::Message);
+    Type(window.Picture6->Text9, u"Bread"_s);
+    EXPECT_EQ(Reminder(0).rs_Title, u"Bread"_s);
+    ASSERT_NE(Card(u"Bread"_s), nullptr);
+    QFocusEvent leave(QEvent::FocusOut);
+    QCoreApplication::sendEvent(window.Picture6->Text9, &leave);
+    EXPECT_EQ(Reminder(0).rs_Text, u"Bread"_s); // it was "Insert text here" until then
+    CardText* onCard = Card(u"Bread"_s)->Text12;
+    EXPECT_EQ(Plain_Text(*onCard), u"Bread"_s);
+    Type(onCard, u"a"_s);
+    QTest::keyClick(onCard, Qt::Key_Return);
+    QTest::keyClicks(onCard, u"b"_s);
+    EXPECT_EQ(Reminder(0).rs_Text, u"a\r\nb"_s);
+    EXPECT_EQ(Plain_Text(*window.Picture6->Text8), u"a\nb"_s);
+}
+
+TEST_F(ListWindow, A_field_at_fault_keeps_its_reminder_selected_whatever_is_tried) {
+    Add(u"good"_s, u"Work"_s);
+    frmReminderEdit& window = Open_On(Add(u"bad"_s, u"Home"_s));
+    Spoil_Date(window);
+    window.Show_Page(EditPage::Message);
+    const std::function<void()> tries[] = {
+        [&] { Click_Card(u"good"_s); },
+        [&] { Choose(window.Combo2, u"Work"_s); },
+        [&] { EXPECT_FALSE(window.Unload(UnloadMode::User)); },
+        [&] { Click(window.wbButton8); },
+        [&] { Click(window.wbButton10); },
+    };
+    for (const auto& attempt : tries) {
+        Expect_Refusal();
+        attempt();
+        EXPECT_EQ(Selected_Title(), u"bad"_s);
+        EXPECT_EQ(window.Combo2->currentText(), u"-- (All)"_s);
+        EXPECT_EQ(window.CurrentPage, EditPage::DateSetup);
+    }
+    EXPECT_FALSE(CopyBufferValid);
+    EXPECT_TRUE(line.puts.empty());
+    EXPECT_TRUE(window.Unload(UnloadMode::Ending));
+}
+
+TEST_F(ListWindow, The_end_takes_a_good_page_and_brings_a_refused_record_back_as_it_stood) {
+    const std::int32_t slot = Add(u"kept"_s);
+    Reminder(slot).AddNewHourSetup({-1, 60, 0, 0});
+    frmReminderEdit& window = Open_On(slot);
+    window.Picture10->Set_CategoryText(u"new one"_s);
+    EXPECT_TRUE(Store_OpenPage());
+    EXPECT_EQ(Reminder(slot).rs_Category, u"New One"_s);
+    const std::string before = Record_Of(Reminder(slot));
+    Spoil_Date(window);
+    Expect_Refusal();
+    // The program may end under the box of the refusal, too.
+    dialogs.whileOpen = [&](const auto&) {
+        EXPECT_FALSE(Reminder(slot).rs_REveryDay);
+        EXPECT_FALSE(Store_OpenPage());
+        EXPECT_EQ(Record_Of(Reminder(slot)), before);
+    };
+    EXPECT_FALSE(window.Save_View_To_Reminder(CategoryOnSave::Take));
+    dialogs.whileOpen = nullptr;
+    EXPECT_FALSE(Store_OpenPage());
+    EXPECT_EQ(Record_Of(Reminder(slot)), before);
+}
+
+TEST_F(ListWindow, A_selected_reminder_may_move_fire_or_go_away_from_outside) {
+    Add(u"first"_s);
+    Add(u"second"_s);
+    Add(u"third"_s);
+    frmReminderEdit& window = Open_On(1);
+    Delete_ReminderSlot(0);
+    EXPECT_EQ(Selected_Title(), u"second"_s);
+    Type(window.Picture6->Text9, u"moved"_s);
+    EXPECT_EQ(Reminder(0).rs_Title, u"moved"_s);
+    EXPECT_EQ(Reminder(1).rs_Title, u"third"_s);
+    Click_Card(u"third"_s); // its card still stands in the old row
+    EXPECT_EQ(Selected_Title(), u"third"_s);
+    Delete_ReminderSlot(1);
+    Type(window.Picture6->Text9, u"nobody"_s);
+    EXPECT_EQ(Reminder(0).rs_Title, u"moved"_s);
+    window.Refresh_View();
+    EXPECT_TRUE(window.Picture2->isHidden());
+    EXPECT_EQ(Titles(), QStringList{u"moved"_s});
+    EXPECT_TRUE(window.Unload(UnloadMode::User));
+}
+
+TEST_F(ListWindow, New_copy_paste_and_delete) {
+    Add(u"one"_s);
+    frmReminderEdit& window = Open_On(0);
+    Click(window.wbButton9); // nothing was copied in this run
+    EXPECT_EQ(Titles().size(), 1);
+    Click(window.wbButton5);
+    EXPECT_EQ(Titles(), (QStringList{u"one"_s, u"Reminder"_s}));
+    EXPECT_EQ(Selected_Title(), u"one"_s);
+    Click(window.wbButton8);
+    Click(window.wbButton9);
+    EXPECT_EQ(Reminder(2).rs_Title, u"one"_s);
+    EXPECT_EQ(Reminder(2).rs_Category, u"-- (All)"_s);
+    EXPECT_EQ(Reminder(2).rs_ID, 2);
+    dialogs.Expect_Question(u"Delete: one ?"_s, platform::Answer::No);
+    Click(window.wbButton6);
+    EXPECT_EQ(Titles().size(), 3);
+    dialogs.Expect_Question(u"Delete: one ?"_s, platform::Answer::Yes);
+    Click(window.wbButton6);
+    EXPECT_EQ(dialogs.shown.back().title, u"Confirm"_s);
+    EXPECT_EQ(Titles(), (QStringList{u"Reminder"_s, u"one"_s}));
+    EXPECT_EQ(Selected_Title(), u"none"_s);
+    EXPECT_TRUE(window.Picture2->isHidden());
+}
+
+TEST_F(ListWindow, An_empty_category_offers_all_the_reminders) {
+    Add(u"one"_s, u"Work"_s);
+    frmReminderEdit& window = Open();
+    Choose(window.Combo2, u"Home"_s);
+    EXPECT_FALSE(window.Cards->Label12->isHidden());
+    EXPECT_TRUE(window.Cards->VScroll2->isHidden());
+    QTest::mouseClick(window.Cards->Label15, Qt::LeftButton);
+    EXPECT_EQ(Titles(), QStringList{u"one"_s});
+    EXPECT_TRUE(window.Cards->Label12->isHidden());
+}
+
+TEST_F(ListWindow, A_category_typed_is_added_moves_its_card_and_can_be_deleted) {
+    Add(u"one"_s, u"Work"_s);
+    Add(u"two"_s, u"Work"_s);
+    frmReminderEdit& window = Open();
+    Choose(window.Combo2, u"Work"_s);
+    Click_Card(u"one"_s);
+    window.Picture10->Set_CategoryText(u"garden  tools"_s);
+    Click_Card(u"two"_s);
+    EXPECT_EQ(Reminder(0).rs_Category, u"Garden Tools"_s);
+    EXPECT_EQ(Titles(), QStringList{u"two"_s});
+    EXPECT_EQ(window.Combo2->findText(u"Garden Tools"_s), 4);
+    auto* erase = Named<wbButton>(window.Picture10, u"Delete category"_s);
+    window.Picture10->Set_CategoryText(u"unknown"_s);
+    dialogs.Expect_Message(u"Category doesn't exists"_s);
+    Click(erase);
+    window.Picture10->Set_CategoryText(u"work"_s);
+    dialogs.Expect_Question(u"Delete category: Work?"_s, platform::Answer::Yes);
+    Click(erase);
+    EXPECT_EQ(Find_Category(u"Work"_s), -1);
+    EXPECT_EQ(Selected_Title(), u"two"_s);
+    EXPECT_TRUE(window.Unload(UnloadMode::User));
+    EXPECT_EQ(Reminder(1).rs_Category, QString()); // and the save has not brought it back
+}
+
+TEST_F(ListWindow, A_category_s_icon_goes_to_its_reminders_when_the_user_agrees) {
+    for (const QString& title : {u"one"_s, u"two"_s})
+        Add(title, u"Home"_s);
+    frmReminderEdit& window = Open_On(0);
+    window.Show_Page(EditPage::Misc);
+    const auto Button = [&](const QString& caption) {
+        for (wbButton* button : window.Picture10->findChildren<wbButton*>())
+            if (button->Caption() == caption)
+                Click(button);
+    };
+    const QString use = u"Use this icon for the selected category"_s;
+    const QString question = u"Icon changed. \r\nDo you want to change the icons of the "
+                             "reminders\r\ninside the \"Home\" category ?"_s;
+    QTest::mouseClick(window.Picture10->IconSelIMG->Frames[14], Qt::LeftButton);
+    EXPECT_EQ(Card(u"one"_s)->Content().Icon, u"Gift"_s);
+    EXPECT_EQ(Reminder(0).rs_Icon, QString()); // until a save
+    dialogs.Expect_Question(question, platform::Answer::No);
+    Button(use);
+    EXPECT_EQ(Global_Categories[1].Icon, u"gift"_s);
+    EXPECT_EQ(Reminder(1).rs_Icon, QString());
+    dialogs.Expect_Question(question, platform::Answer::Yes);
+    Button(use);
+    EXPECT_EQ(Reminder(1).rs_Icon, u"gift"_s);
+    EXPECT_EQ(Card(u"two"_s)->Content().Icon, u"gift"_s);
+    Button(u"No icon"_s);
+    EXPECT_EQ(Card(u"one"_s)->Content().Icon, QString());
+    Choose(window.Picture10->Combo1, u"Work"_s); // brings its own icon
+    EXPECT_EQ(window.Picture10->IconSelIMG->Selected_Name(), u"Write"_s);
+    window.Picture10->Set_CategoryText(u"--"_s);
+    dialogs.Expect_Message(u"Category doesn't exist: --"_s);
+    Button(use);
+}
+
+TEST_F(ListWindow, The_function_editor_changes_the_record_at_once_and_keeps_what_is_typed) {
+    Add(u"other"_s);
+    frmReminderEdit& window = Open_On(Add(u"one"_s));
+    window.Show_Page(EditPage::Message);
+    const auto Editor = [&]() -> frmRE_FunctionEdit& {
+        Click(window.Picture6->wbButton3[1]);
+        return *window.findChildren<frmRE_FunctionEdit*>().back();
+    };
+    window.Picture6->Text10[1]->setText(u"My caption"_s);
+    const auto Finish = [](frmRE_FunctionEdit& editor, const QString& button) {
+        Click(Named<wbButton>(&editor, button));
+        Unload_PendingForms();
+    };
+    frmRE_FunctionEdit& canceled = Editor();
+    canceled.p0ChkImage[1]->Toggle();
+    QTest::keyClick(&canceled, Qt::Key_Escape);
+    Unload_PendingForms();
+    EXPECT_EQ(Reminder(1).GetFuncion(1), FunctionEntry{});
+    frmRE_FunctionEdit& editor = Editor();
+    editor.p0ChkImage[1]->Toggle();
+    editor.p0ChkImage[0]->Toggle(); // takes the other tick away
+    Type(editor.Text10[0], u"a.org"_s);
+    editor.p0ChkImage[4]->Toggle();
+    Finish(editor, u"Ok"_s);
+    EXPECT_EQ(Reminder(1).GetFuncion(1),
+              (FunctionEntry{false, FunctionType::OpenPage, 2, u"http://a.org"_s, {}}));
+    EXPECT_EQ(window.Picture6->Label32[1]->text(), u"Open page: \"http://a.org\""_s);
+    EXPECT_EQ(window.Picture6->Text10[1]->text(), u"My caption"_s);
+    // The reminder goes while its function is being edited.
+    frmRE_FunctionEdit& late = Editor();
+    Delete_ReminderSlot(1);
+    Finish(late, u"Ok"_s);
+    EXPECT_EQ(Reminder(0).GetFuncion(1), FunctionEntry{});
+}
+
+TEST_F(ListWindow, Display_mode_functions_and_sound) {
+    Reminder(Add(u"one"_s)).rs_Reminder_Type = ReminderType::Centered;
+    frmReminderEdit& window = Open_On(0);
+    MessagePage& message = *window.Picture6;
+    message.p6ChkImage[4]->Toggle();
+    message.Option2[1]->click();
+    EXPECT_TRUE(message.p6ChkImage[4]->Is_Blocked());
+    message.p6ChkImage[2]->Toggle();
+    EXPECT_TRUE(Reminder(0).GetFuncion(2).Enabled); // at once
+    message.Text10[0]->setText(QString(65533, u'a'));
+    QTest::keyClicks(message.Text10[0], u"bcdef"_s);
+    EXPECT_EQ(message.Text10[0]->text().size(), 65535);
+    SoundPage& sound = *window.Picture7;
+    EXPECT_TRUE(sound.p7ChkImage[1]->Is_Ticked()); // the path is empty
+    EXPECT_FALSE(sound.Text11->isEnabled());
+    const QString base = paths.Program_Folder() + u"/ring"_s;
+    ASSERT_TRUE(files.Replace(base + u".mp3"_s, "x"));
+    auto* browse = Named<wbButton>(&sound, u"Choose a sound file"_s);
+    dialogs.Expect_Open_File(u"Open File"_s, base, 1);
+    dialogs.Expect_Message(u"Can't open file: "_s + base + u".wav"_s);
+    Click(browse);
+    dialogs.Expect_Open_File(u"Open File"_s, base, 0);
+    Click(browse);
+    EXPECT_TRUE(sound.Text11->isEnabled());
+    EXPECT_TRUE(window.Save_View_To_Reminder(CategoryOnSave::Take));
+    EXPECT_EQ(Reminder(0).rs_SoundPath, base + u".mp3"_s);
+    EXPECT_EQ(Reminder(0).rs_Reminder_Type, ReminderType::NextToToolbar);
+    EXPECT_FALSE(Reminder(0).rs_Minimize_Apps);
+}
+
+} // namespace
