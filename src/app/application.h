@@ -7,6 +7,7 @@
 #include "toolbar/toolbar_commands.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -34,24 +35,34 @@ public:
 private:
     struct Step {
         const char* Name;
-        void (Application::*Run)(); // none: what it loads or saves is not there yet
+        void (Application::*Run)();
     };
-    static const Step LoadOrder[];
-    static const Step SaveOrder[];
+    static const Step LoadOrder[17];
+    static const Step SaveOrder[7];
 
     void Create_Windows();
     void Init_GlobalArrays();
+    void Load_TooltipTexts();
     void Load_Settings();
     void Open_UserFolder();
+    void Build_OwnLinks();
     void Load_CategoryTable();
     void Load_ReminderTable();
     void Load_RemindAgain();
+    void Load_LinkTable();
+    void Load_NoteTable();
+    void Place_Textbox();
+    void Build_LinksMenu();
     void Show_Missed();
     void Start_Toolbar();
     void Start_Timers();
+    void Await_SetupWizard();
 
+    void Take_OpenEdits();
     void Save_ReminderTable();
     void Save_RemindAgain();
+    void Save_LinkTable();
+    void Save_NoteTable();
     void Save_CategoryTable();
     void Save_RegistryValues();
     // Saves everything once, in order; shows nothing.
@@ -66,5 +77,5 @@ private:
     std::unique_ptr<MainForm> mainForm;
     bool loaded = false;
     bool saved = false;
-    bool remindersSaved = true;
+    QStringList saveFailures; // one line for each table that could not be saved
 };

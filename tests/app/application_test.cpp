@@ -1,11 +1,22 @@
 // The program's load and end, with every service of the system replaced.
+#include "accessories/setup/setup.h"
+#include "accessories/textbox/frm_textbox.h"
 #include "app/app_message.h"
 #include "app/application.h"
 #include "app/program.h"
 #include "controls/program_end.h"
+#include "controls/tooltip_picture.h"
 #include "core/reminder_store.h"
 #include "delivery/message_queue.h"
+#include "editors/list/reminder_edit.h"
+#include "editors/wizard/frm_add_reminder_wizard.h"
+#include "editors/wizard/frm_quick_add_reminder.h"
 #include "example_reminders.h"
+#include "links/editor/links_editor.h"
+#include "links/store/link_rec.h"
+#include "notes/frm_notes_editor.h"
+#include "notes/notes_store.h"
+#include "notes/open_note.h"
 #include "settings/account.h"
 #include "settings/global_settings.h"
 #include "support/fake_system.h"
@@ -21,6 +32,7 @@ namespace {
 
 class Program : public testing::Test {
 protected:
+    Program() { Put(system.paths.Shipped_Folder() + "/tooltips.txt"_L1, "[0] Help\r\nText"); }
     QString Home() { return system.paths.Program_Folder(); }
     QString Reminders() { return Home() + "/User-1/reminders.dat"_L1; }
     static std::string Bytes(const QString& path) {
@@ -98,7 +110,7 @@ TEST_F(Program, What_Was_Loaded_Is_Saved_In_Order_And_Once) {
     program.Unload();
     program.End(platform::EndReason::Asked);
     program.End(platform::EndReason::NoDisplay);
-    EXPECT_EQ(Saved(), "reminders.dat rareminders.dat rcategories.txt");
+    EXPECT_EQ(Saved(), "reminders.dat rareminders.dat links.dat notes.dat rcategories.txt");
     EXPECT_TRUE(system.instance.ending);
     EXPECT_EQ(Number(platform::RegistryRoot::CurrentUser, u"Global_CurID"_s), 1U);
     EXPECT_EQ(Number(platform::RegistryRoot::CurrentUser, u"First Time"_s), 0U);
@@ -170,10 +182,10 @@ TEST_F(Program, A_Failed_Save_Is_Said_To_The_User_After_All_Saves_But_Not_To_The
         if (byUser) {
             system.dialogs.Expect_Message(u"Error saving reminders"_s);
             program.Unload();
-            EXPECT_EQ(savedBefore, "rareminders.dat rcategories.txt");
+            EXPECT_EQ(savedBefore, "rareminders.dat links.dat notes.dat rcategories.txt");
         } else {
             program.End(platform::EndReason::Asked);
-            EXPECT_EQ(Saved(), "rareminders.dat rcategories.txt");
+            EXPECT_EQ(Saved(), "rareminders.dat links.dat notes.dat rcategories.txt");
         }
         EXPECT_EQ(Number(platform::RegistryRoot::CurrentUser, u"First Time"_s), 0U);
     }
@@ -208,6 +220,41 @@ TEST_F(Program, A_Later_Launch_Brings_A_Visible_Toolbar_Forward_And_Sends_Show_T
     EXPECT_EQ(system.desktop.beeps, 1);
     EXPECT_TRUE(program.Main_Form()->isVisible());
     Clear_AppMessage();
+}
+
+TEST_F(Program, Links_And_Notes_That_Cannot_Be_Read_Are_Told_Of_And_What_Comes_First_Stands_In) {
+    Put(Home() + "/User-1/links.dat"_L1, "LinksSaveFile002");
+    Put(Home() + "/User-1/notes.dat"_L1, "nonsense");
+    QFile::remove(system.paths.Shipped_Folder() + "/tooltips.txt"_L1);
+    system.dialogs.Expect_Message(u"Error loading tooltips"_s);
+    system.dialogs.Expect_Message(u"Error loading links (file version not supported)"_s);
+    system.dialogs.Expect_Message(u"Error loading notes"_s);
+    Application program;
+    ASSERT_TRUE(program.Load());
+    EXPECT_FALSE(Global_TooltipsLoaded);
+    EXPECT_EQ(Link_Count(Global_LinkArray), 7U);
+    EXPECT_EQ(Global_NoteCategories[0], u"Work Stuff"_s);
+    program.Unload();
+    EXPECT_EQ(Bytes(Home() + "/User-1/links.dat.damaged"_L1), "LinksSaveFile002");
+    EXPECT_EQ(Bytes(Home() + "/User-1/notes.dat.damaged"_L1), "nonsense");
+    EXPECT_TRUE(Bytes(Home() + "/User-1/links.dat"_L1).starts_with("LinksSaveFile001\x06"));
+}
+
+TEST_F(Program, The_End_Takes_What_Is_Being_Typed_And_Drops_What_Is_Only_Begun) {
+    Application program;
+    ASSERT_TRUE(program.Load());
+    Global_Notes[0].Text = u"old"_s;
+    Edit_NoteText(0, u"typed"_s);
+    Show_ReminderEdit();
+    Show_NotesEditor();
+    Show_LinksEditor();
+    Show_ProgramSetup();
+    Toggle_Textbox();
+    Show_AddReminderWizard();
+    Show_QuickAdd(); // has a slot that must not reach the file
+    program.End(platform::EndReason::Asked);
+    EXPECT_EQ(Bytes(Reminders()), Empty_Table);
+    EXPECT_NE(Bytes(Home() + "/User-1/notes.dat"_L1).find("typed"), std::string::npos);
 }
 
 TEST_F(Program, A_Handed_Over_Launch_Touches_Nothing) {

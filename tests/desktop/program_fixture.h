@@ -14,7 +14,14 @@ inline constexpr QRect Line(196, 4, 112, 13); // the message line inside the str
 
 class Program : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(desktop.Is_Up() && folder.isValid()); }
+    void SetUp() override {
+        ASSERT_TRUE(desktop.Is_Up() && folder.isValid());
+        Write_File(Home() + "/HKEY_CURRENT_USER.reg"_L1, "REGEDIT4\r\n\r\n"
+                                                         "[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
+                                                         "\"First Time\"=dword:00000000\r\n");
+    }
+    // The next start is the very first, with its wizard.
+    void Forget_Settings() const { QFile::remove(Home() + "/HKEY_CURRENT_USER.reg"_L1); }
 
     QString Home() const { return folder.path(); }
     QString Reminders() const { return Home() + "/User-1/reminders.dat"_L1; }

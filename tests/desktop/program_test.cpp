@@ -16,6 +16,7 @@ namespace {
 
 TEST_F(Program, First_Start_Stands_At_The_Top_Greets_And_Saves_On_Ctrl_C) {
     Give_Examples();
+    Forget_Settings();
     Tockly tockly(desktop, Home());
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));

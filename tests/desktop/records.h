@@ -71,3 +71,119 @@ inline QByteArray Reminder_File(const std::vector<TestReminder>& reminders) {
     }
     return bytes;
 }
+
+// What a saved record says, read field by field by the tests themselves.
+struct SavedReminder {
+    bool enabled = false;
+    std::int32_t id = 0;
+    std::uint8_t type = 0;
+    std::uint8_t kind = 0;
+    bool everyDay = false;
+    QByteArray weekdays; // eight bytes
+    QByteArray title;
+    QByteArray text;
+    std::int16_t reDays = 0;
+    std::uint8_t day = 0;
+    std::uint8_t month = 0;
+    std::int16_t year = 0;
+    std::int32_t startDay = 0;
+    std::int32_t disabledForToday = 0;
+    QByteArray sound;
+    struct Hour {
+        std::int16_t enabled, start, end, every;
+    };
+    std::vector<Hour> hours;
+    QByteArray category;
+    QByteArray icon;
+    std::int32_t dayOfMonth = 0;
+};
+
+class RecordBytes {
+public:
+    explicit RecordBytes(const QByteArray& file) : bytes(file) {}
+
+    std::int64_t Number(int size) {
+        std::uint64_t value = 0;
+        for (int i = 0; i < size && at < bytes.size(); ++i) {
+            value |= std::uint64_t{static_cast<unsigned char>(bytes[at++])} << (8 * i);
+        }
+        const int unused = 64 - 8 * size;
+        return static_cast<std::int64_t>(value << unused) >> unused;
+    }
+    QByteArray Take(std::int64_t size) {
+        const QByteArray part = bytes.mid(at, size);
+        at += part.size();
+        return part;
+    }
+    QByteArray Text(int countSize) {
+        const auto mask = (std::int64_t{1} << (8 * countSize)) - 1;
+        return Take(Number(countSize) & mask);
+    }
+
+private:
+    QByteArray bytes;
+    qsizetype at = 0;
+};
+
+inline SavedReminder Read_Record(RecordBytes& in) {
+    SavedReminder out;
+    const auto number = [&in](auto& field, int size) {
+        field = static_cast<std::remove_reference_t<decltype(field)>>(in.Number(size));
+    };
+    if (in.Take(7) != "rObj003") {
+        return out;
+    }
+    out.enabled = in.Number(2) != 0;
+    number(out.id, 4);
+    in.Number(4);
+    number(out.type, 1);
+    in.Number(2);
+    number(out.kind, 1);
+    number(out.disabledForToday, 4);
+    out.everyDay = in.Number(2) != 0;
+    out.weekdays = in.Take(8);
+    out.title = in.Text(4);
+    out.text = in.Text(4);
+    in.Number(4);
+    number(out.reDays, 2);
+    in.Number(4);
+    number(out.day, 1);
+    number(out.month, 1);
+    number(out.year, 2);
+    in.Number(4);
+    number(out.startDay, 4);
+    in.Take(8 + 2);
+    out.sound = in.Text(4);
+    for (int k = 0; k < 4; ++k) {
+        in.Take(3);
+        in.Text(2);
+        in.Number(1);
+        in.Text(2);
+    }
+    for (std::int64_t last = in.Number(4); last >= 0; --last) {
+        SavedReminder::Hour hour{};
+        number(hour.enabled, 2);
+        number(hour.start, 2);
+        number(hour.end, 2);
+        number(hour.every, 2);
+        out.hours.push_back(hour);
+    }
+    out.category = in.Text(4);
+    out.icon = in.Text(4);
+    in.Number(4);
+    number(out.dayOfMonth, 4);
+    in.Take(8);
+    return out;
+}
+
+inline std::vector<SavedReminder> Saved_Reminders(const QByteArray& file) {
+    RecordBytes in(file);
+    std::vector<SavedReminder> all;
+    if (in.Take(12) != "RSaveFile001") {
+        return all;
+    }
+    for (std::int64_t count = in.Number(4); count > 0 && count < 100000; --count) {
+        all.push_back(Read_Record(in));
+    }
+    return all;
+}

@@ -1,0 +1,198 @@
+// How the windows bear many rows: each against the same window with few, in one run on the screen
+// that DISPLAY names.
+#include "controls/form.h"
+#include "controls/program_end.h"
+#include "controls/timers.h"
+#include "controls/unload_queue.h"
+#include "core/categories.h"
+#include "core/date_text.h"
+#include "core/reminder_store.h"
+#include "editors/list/frm_reminder_edit.h"
+#include "editors/list/reminder_edit.h"
+#include "links/menu/links_menu.h"
+#include "links/store/link_rec.h"
+#include "links/store/links_data.h"
+#include "notes/frm_notes_editor.h"
+#include "notes/notes_store.h"
+#include "platform/system.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Runs = 15;
+
+// Until nothing is left to paint.
+void Settle() {
+    for (int round = 0; round < 3; ++round) {
+        QApplication::sendPostedEvents();
+        QApplication::processEvents();
+    }
+}
+
+// Milliseconds.
+double Time_Of(const std::function<void()>& work) {
+    QElapsedTimer time;
+    time.start();
+    work();
+    Settle();
+    return static_cast<double>(time.nsecsElapsed()) / 1e6;
+}
+
+double Median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+void Close_All() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* form = qobject_cast<Form*>(window))
+            form->Unload(UnloadMode::Ending);
+    Unload_PendingForms();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Settle();
+}
+
+void Fill_Reminders(int count) {
+    Init_Reminders();
+    for (int number = 0; number < count; ++number) {
+        auto reminder = std::make_unique<ReminderClass>();
+        reminder->SetDefaultValues();
+        reminder->rs_ID = number;
+        reminder->rs_Title = u"Reminder %1"_s.arg(number);
+        reminder->rs_Icon = u"Home"_s;
+        auto& slot = Global_Reminders[static_cast<std::size_t>(Take_FreeReminderSlot())];
+        slot.Used = true;
+        slot.Reminder = std::move(reminder);
+    }
+}
+
+double Open_List(int reminders) {
+    std::vector<double> times;
+    Fill_Reminders(reminders);
+    for (int run = 0; run < Runs; ++run) {
+        times.push_back(Time_Of(Show_ReminderEdit));
+        Close_All();
+    }
+    return Median(times);
+}
+
+QScrollBar* Longest_Bar(QWidget* window) {
+    const auto bars = window->findChildren<QScrollBar*>();
+    return *std::max_element(bars.begin(), bars.end(), [](QScrollBar* a, QScrollBar* b) {
+        return a->maximum() < b->maximum();
+    });
+}
+
+// One step of the bar and its painting, the worst of a hundred.
+double Worst_Step(QWidget* window) {
+    QScrollBar* bar = Longest_Bar(window);
+    double worst = 0;
+    for (int step = 1; step <= 100; ++step)
+        worst = std::max(worst, Time_Of([&] { bar->setValue(bar->maximum() / 100 * step); }));
+    return worst;
+}
+
+// A key in the title, the worst of fifty.
+double Worst_Key(frmReminderEdit* window) {
+    window->SelectReminder_Using_RListIndex(3);
+    Settle();
+    QLineEdit* title = nullptr;
+    for (QLineEdit* line : window->findChildren<QLineEdit*>())
+        if (line->text() == "Reminder 3"_L1)
+            title = line;
+    double worst = title == nullptr ? -1 : 0;
+    for (int key = 0; title != nullptr && key < 50; ++key)
+        worst = std::max(worst, Time_Of([&] { title->insert(u"x"_s); }));
+    return worst;
+}
+
+double Open_Menu(int links) {
+    Global_LinkArray.clear();
+    for (int row = 0; row < links; ++row)
+        Global_LinkArray.push_back({u"0http://www.example.com/"_s, u"Link %1"_s.arg(row), {}});
+    Load_Global_LinksArray();
+    std::vector<double> times;
+    for (int run = 0; run < Runs; ++run) {
+        times.push_back(
+            Time_Of([] { Open_LinksMenu(MenuOpenedBy::Keyboard, QRect(300, 0, 333, 20)); }));
+        Hide_LinksMenu();
+        Unload_PendingForms();
+        Settle();
+    }
+    return Median(times);
+}
+
+double Open_Notes(int notes) {
+    Init_Notes();
+    Global_NoteCategories[0] = u"All"_s;
+    Global_Notes.clear();
+    for (int note = 0; note < notes; ++note)
+        Global_Notes.push_back(
+            {true, u"Note %1"_s.arg(note), u"Text\r\nof it"_s, 3000, 3000, 0, 0});
+    std::vector<double> times;
+    for (int run = 0; run < Runs; ++run) {
+        times.push_back(Time_Of(Show_NotesEditor));
+        Close_All();
+    }
+    return Median(times);
+}
+
+void Print(const char* what, double many, double few, double limit) {
+    std::printf("%s: %.1f ms against %.1f ms, ratio %.2f (limit %.1f)\n", what, many, few,
+                many / few, limit);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    platform::Prepare_Process();
+    QApplication toolkit(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    platform::Provide_Base_Services();
+    platform::Provide_Window_Services();
+    Timers timers;
+    Global_Timers = &timers;
+    Init_TimeRoutines();
+    Init_DateText();
+    Init_Categories();
+    Init_LinksMenu();
+
+    Open_List(10); // fonts and pictures of the first window are not the list's
+    const double ten = Open_List(10);
+    const double tenThousand = Open_List(10000);
+    Print("list of 10,000 reminders, opened, against 10", tenThousand, ten, 2);
+    Print("list of 100,000 reminders, opened, against 10,000", Open_List(100000), tenThousand, 10);
+    Fill_Reminders(10000);
+    Show_ReminderEdit();
+    Settle();
+    std::printf("worst step of a list of 10,000: %.1f ms (a frame is 16.7)\n",
+                Worst_Step(Open_ReminderEdit()));
+    std::printf("worst key in a title of 10,000: %.1f ms\n", Worst_Key(Open_ReminderEdit()));
+    Close_All();
+    Open_Menu(10);
+    const double tenLinks = Open_Menu(10);
+    Print("menu of 1,000 links, opened, against 10", Open_Menu(1000), tenLinks, 1.5);
+    Open_Notes(10);
+    const double tenNotes = Open_Notes(10);
+    Print("5,000 notes, opened, against 10", Open_Notes(5000), tenNotes, 2);
+    Show_NotesEditor();
+    Settle();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<frmNotesEditor*>(window) != nullptr)
+            std::printf("worst step of 5,000 notes: %.1f ms\n", Worst_Step(window));
+    Close_All();
+    Unload_LinksMenu();
+    Global_Timers = nullptr;
+}
