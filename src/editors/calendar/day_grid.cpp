@@ -4,6 +4,7 @@
 #include "controls/palette.h"
 
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -132,6 +133,9 @@ bool DayGrid::Step(int key) {
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        // Where nobody takes it, the key is for the window around the grid.
+        if (!isSignalConnected(QMetaMethod::fromSignal(&DayGrid::Confirmed)))
+            return false;
         Q_EMIT Confirmed();
         return true;
     default:
