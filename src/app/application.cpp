@@ -110,6 +110,7 @@ void Application::Unload() {
 void Application::End(platform::EndReason reason) {
     if (reason == platform::EndReason::NoDisplay) {
         Set_Program_Ending(true);
+        windowsGone = true;
         CloseProgram();
         return;
     }

@@ -77,5 +77,6 @@ private:
     std::unique_ptr<MainForm> mainForm;
     bool loaded = false;
     bool saved = false;
+    bool windowsGone = false;
     QStringList saveFailures; // one line for each table that could not be saved
 };

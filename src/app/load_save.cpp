@@ -199,7 +199,7 @@ void Application::Start_Timers() {
 }
 
 void Application::Take_OpenEdits() {
-    Store_OpenEdits();
+    Store_OpenEdits(windowsGone ? WindowsAre::Gone : WindowsAre::There);
 }
 
 void Application::Save_ReminderTable() {

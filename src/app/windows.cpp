@@ -58,9 +58,13 @@ void Connect_Windows(ToolbarCommands& commands, MainForm& toolbar) {
                           Show_SetupWizard, Show_HelpPage});
 }
 
-void Store_OpenEdits() {
-    Store_OpenPage();
+void Store_OpenEdits(WindowsAre windows) {
     Store_OpenNote();
+    if (windows == WindowsAre::Gone) {
+        Restore_RefusedPage();
+        return;
+    }
+    Store_OpenPage();
     Store_OpenLinksPanel();
 }
 

@@ -95,6 +95,7 @@ TEST_F(Hiding, It_Hides_By_Itself_When_The_Mouse_Has_Left_It) {
                            "\"Global_Autohide_Enabled\"=dword:ffffffff\r\n"
                            "\"Global_Autohide_WaitTime\"=dword:000007d0\r\n"
                            "\"Global_Autohide_SelectedHideMode\"=dword:ffffffff\r\n"
+                           "\"First Time\"=dword:00000000\r\n"
                            "\"Global_CurID\"=dword:00000001\r\n"));
     Tockly tockly(desktop, Home());
     desktop.XDo({u"mousemove"_s, u"600"_s, u"10"_s});

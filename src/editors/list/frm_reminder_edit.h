@@ -48,6 +48,7 @@ public:
     // What others did to the table: a selected reminder that is gone takes its pages along.
     void Refresh_View();
     bool Store_OpenPage();
+    void Restore_RefusedPage();
 
     // For the pages.
     ReminderClass* Selected_Reminder() override { return selection.Get(); }

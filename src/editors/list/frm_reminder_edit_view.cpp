@@ -89,6 +89,10 @@ bool frmReminderEdit::Store_OpenPage() {
     return false;
 }
 
+void frmReminderEdit::Restore_RefusedPage() {
+    refused.Restore(selection);
+}
+
 void frmReminderEdit::Title_Changed(const QString& title) {
     ReminderClass* reminder = Selected_Reminder();
     if (reminder == nullptr)

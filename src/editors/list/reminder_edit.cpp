@@ -22,6 +22,11 @@ void Show_ReminderEdit() {
     listWindow->Present();
 }
 
+void Restore_RefusedPage() {
+    if (frmReminderEdit* window = Open_ReminderEdit())
+        window->Restore_RefusedPage();
+}
+
 bool Store_OpenPage() {
     frmReminderEdit* window = Open_ReminderEdit();
     return window == nullptr || window->Store_OpenPage();

@@ -11,3 +11,5 @@ frmReminderEdit* Open_ReminderEdit();
 // checks; a record that a refused save left half cleared is brought back as it stood. False when
 // the page was not taken.
 bool Store_OpenPage();
+// The same without the page, when no window may be touched any more.
+void Restore_RefusedPage();
