@@ -9,7 +9,7 @@
 #include "links/editor/links_editor.h"
 #include "links/editor/links_list.h"
 #include "links/editor/property_panel.h"
-#include "links/store/links_data.h"
+#include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 
@@ -18,7 +18,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -27,273 +26,274 @@ namespace {
 constexpr int FormWidth = 616;
 constexpr int FormHeight = 424;
 constexpr int Margin = 8;
+constexpr int BodyTop = 30;
 constexpr int ListWidth = 324;
 constexpr int RightLeft = Margin + ListWidth + 16;
 constexpr int ButtonHeight = 24;
-constexpr int TooltipList = 53;
-constexpr int TooltipPanel = 54;
+constexpr int ButtonStep = ButtonHeight + 4;
+constexpr int ButtonWidth = 128;
+constexpr int CommandsTop = 260;
+constexpr int BottomTop = FormHeight - Margin - ButtonHeight;
+constexpr int PictureSize = 16;
+constexpr int TipList = 53;
+constexpr qsizetype ShownName = 500; // characters of a name or path in a question
 
 const QString HelpPage = u"lnk_LinksSetup.html"_s;
 
 QPointer<frmLinksEdit> linksWindow;
 
+bool Ask(const QString& text) {
+    return platform::Dialogs::Get().Question(text, false) == platform::Answer::Yes;
+}
+
 } // namespace
 
+// All controls are made in the order of the Tab key.
 frmLinksEdit::frmLinksEdit() {
     setWindowTitle(u"'My Links' menu setup"_s);
     setFixedSize(FormWidth, FormHeight);
-    Global_LinkArray.resize(Link_Count(Global_LinkArray));
-    QLabel* heading = Add_Label(u"My Links:"_s, Margin, Margin + 2);
-    QFont bold = Small_Font();
+    Build_List();
+    panel = new PropertyPanel(this);
+    panel->move(RightLeft, BodyTop - 2);
+    connect(panel, &PropertyPanel::Browse, this, &frmLinksEdit::Browse);
+    connect(panel, &PropertyPanel::Entered, this, &frmLinksEdit::wbButton2_Click);
+    Build_Buttons();
+    Load_Global_LinksArray_To_List();
+    list->setFocus();
+    const platform::Size screen = platform::Desktop::Get().Screen_Size();
+    move(std::max((screen.width - width()) / 2, 0), std::max((screen.height - height()) / 2, 0));
+}
+
+void frmLinksEdit::Build_List() {
+    QLabel* heading = Add_Label(u"My Links:"_s, Margin, Margin + 3);
+    QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);
     heading->adjustSize();
+    new TooltipPicture(TipList, heading->geometry().right() + 6, Margin + 2, this);
     list = new LinksList(this);
-    list->setGeometry(Margin, 28, ListWidth, 324);
-    heading->setBuddy(list);
-    new TooltipPicture(TooltipList, Margin + ListWidth - 16, Margin, this);
-    panel = new PropertyPanel(this);
-    panel->move(RightLeft, 28);
-    new TooltipPicture(TooltipPanel, FormWidth - Margin - 16, Margin, this);
-    Build_Buttons();
-    connect(list, &LinksList::Row_Selected, this, &frmLinksEdit::Select_Row);
-    connect(list, &LinksList::Row_Dragged, this, &frmLinksEdit::Drag_Row);
+    list->setGeometry(Margin, BodyTop, ListWidth, FormHeight - Margin - BodyTop);
+    connect(list, &LinksList::Row_Selected, this, &frmLinksEdit::Row_Selected);
+    connect(list, &LinksList::Row_Dragged, this,
+            [this](int from, int to) { Run([&] { return edit.Drag(from, to); }); });
     connect(list, &LinksList::File_Dropped, this, &frmLinksEdit::Drop_File);
-    connect(panel, &PropertyPanel::Browse, this, &frmLinksEdit::Browse);
-    savedCopy = Global_LinkArray;
-    Load_Global_LinksArray_To_List(-1);
-    list->setFocus();
-}
-
-wbButton* frmLinksEdit::Add_Button(const QString& caption, IconName icon, const QRect& place,
-                                   std::function<void()> click) {
-    auto* button = new wbButton(this);
-    button->Set_Caption(caption);
-    button->Set_Picture(Load_Icon(icon), {16, 16});
-    button->Set_ImageLEFT(6);
-    button->Set_ImageTOP((place.height() - 16) / 2);
-    button->setGeometry(place);
-    connect(button, &wbButton::Click, this, std::move(click));
-    return button;
 }
 
 void frmLinksEdit::Build_Buttons() {
-    const int half = (FormWidth - Margin - RightLeft - 4) / 2;
-    const auto right = [&](int column, int row) {
-        return QRect(RightLeft + column * (half + 4), 254 + row * (ButtonHeight + 4), half,
-                     ButtonHeight);
+    const QString store = u"Store the properties in the list"_s;
+    const QString apply = u"Show the list in the menu"_s;
+    const struct {
+        wbButton*& Button;
+        QString Caption; // behind its picture
+        QString Tip;
+        IconName Icon;
+        int Column;
+        int Top;
+        void (frmLinksEdit::*Click)();
+    } rows[] = {
+        {wbButton8, u"Add link"_s, {}, IconName::Link, 0, 0, &frmLinksEdit::wbButton8_Click},
+        {wbButton11,
+         u"Add category"_s,
+         {},
+         IconName::Category,
+         1,
+         0,
+         &frmLinksEdit::wbButton11_Click},
+        {wbButton3, u"Move Up"_s, u"Alt+Up"_s, IconName::MoveUp, 0, ButtonStep,
+         &frmLinksEdit::wbButton3_Click},
+        {wbButton4, u"Move Down"_s, u"Alt+Down"_s, IconName::MoveDown, 1, ButtonStep,
+         &frmLinksEdit::wbButton4_Click},
+        {wbButton5, u"Move Left"_s, u"Alt+Left"_s, IconName::MoveLeft, 0, 2 * ButtonStep,
+         &frmLinksEdit::wbButton5_Click},
+        {wbButton6, u"Move Right"_s, u"Alt+Right"_s, IconName::MoveRight, 1, 2 * ButtonStep,
+         &frmLinksEdit::wbButton6_Click},
+        {wbButton7, u"Delete"_s, u"Del"_s, IconName::DeleteItem, 0, 3 * ButtonStep,
+         &frmLinksEdit::wbButton7_Click},
+        {wbButton9, u"Undo"_s, u"Ctrl+Z"_s, IconName::Undo, 1, 3 * ButtonStep,
+         &frmLinksEdit::wbButton9_Click},
+        {wbButton2, u"Ok"_s, store, IconName::Tick, 0, BottomTop - CommandsTop,
+         &frmLinksEdit::wbButton2_Click},
+        {wbButton10, u"Apply"_s, apply, IconName::Apply, 1, BottomTop - CommandsTop,
+         &frmLinksEdit::wbButton10_Click},
+        {wbButton14,
+         {},
+         u"Help"_s,
+         IconName::Help,
+         2,
+         BottomTop - CommandsTop,
+         &frmLinksEdit::Show_Help},
     };
-    // wbButton8, 11, 3, 4, 5, 6, 7, 9 in the order of the tab key.
-    Add_Button(u"     Add link"_s, IconName::NewItem, right(0, 0),
-               [this] { Add_NewLink(u"http://"_s, {}); });
-    Add_Button(u"     Add category"_s, IconName::Category, right(1, 0),
-               [this] { Add_NewCategory(); });
-    Add_Button(u"     Move Up"_s, IconName::MoveUp, right(0, 1),
-               [this] { Move(MoveDirection::Up); });
-    Add_Button(u"     Move Down"_s, IconName::MoveDown, right(1, 1),
-               [this] { Move(MoveDirection::Down); });
-    Add_Button(u"     Move Left"_s, IconName::MoveLeft, right(0, 2),
-               [this] { Run(Needs::Row, Move_Category_Left); });
-    Add_Button(u"     Move Right"_s, IconName::MoveRight, right(1, 2),
-               [this] { Run(Needs::Row, Move_Category_Right); });
-    Add_Button(u"     Delete"_s, IconName::DeleteItem, right(0, 3), [this] { Delete_Selected(); });
-    Add_Button(u"     Undo"_s, IconName::Undo, right(1, 3), [this] { Undo(); });
-    const int bottom = FormHeight - Margin - ButtonHeight;
-    const auto below = [&](int column) {
-        return QRect(FormWidth - Margin - (3 - column) * 94 + 4, bottom, 90, ButtonHeight);
-    };
-    // wbButton2, wbButton10 and help.
-    wbButton* ok = Add_Button(u"Ok"_s, IconName::Tick, below(0), [this] { Ok(); });
-    ok->Set_ToolTipTextLabel(u"Store the properties in the list"_s);
-    wbButton* apply = Add_Button(u"     Apply"_s, IconName::Apply, below(1), [this] { Apply(); });
-    apply->Set_ToolTipTextLabel(u"Show the list in the menu"_s);
-    Add_Button(u"     Help"_s, IconName::Help, below(2), [] { Show_HelpPage(HelpPage); });
+    for (const auto& row : rows) {
+        auto* button = new wbButton(this);
+        button->setGeometry(RightLeft + row.Column * (ButtonWidth + 4), CommandsTop + row.Top,
+                            ButtonWidth, ButtonHeight);
+        button->Set_Caption(row.Caption.isEmpty() ? QString() : u"     "_s + row.Caption);
+        button->setAccessibleName(row.Caption.isEmpty() ? row.Tip : row.Caption);
+        button->Set_ToolTipTextLabel(row.Tip);
+        button->Set_Picture(Load_Icon(row.Icon), {PictureSize, PictureSize});
+        button->Set_ImageLEFT(8);
+        button->Set_ImageTOP((ButtonHeight - PictureSize) / 2);
+        connect(button, &wbButton::Click, this, row.Click);
+        row.Button = button;
+    }
+    wbButton14->setGeometry(FormWidth - Margin - 28, BottomTop, 28, ButtonHeight);
+    wbButton14->Set_CenterImage(true);
+    for (wbButton* button : {wbButton2, wbButton10})
+        button->resize((ButtonWidth * 2 + 4 - 28 - 8) / 2, ButtonHeight);
+    wbButton10->move(wbButton2->geometry().right() + 5, BottomTop);
 }
 
-void frmLinksEdit::Load_Global_LinksArray_To_List(int row) {
-    selectedRow = row >= 0 && row < static_cast<int>(Global_LinkArray.size()) ? row : -1;
-    list->Load_Global_LinksArray_To_List(selectedRow);
-    Show_Panel();
+// After a box: the program may be at its end.
+bool frmLinksEdit::Is_Here() const {
+    return !Is_Unloading() && !Program_Is_Ending();
 }
 
-void frmLinksEdit::Show_Panel() {
-    panel->Show_Row(selectedRow < 0 ? nullptr
-                                    : &Global_LinkArray[static_cast<std::size_t>(selectedRow)]);
+void frmLinksEdit::Load_Global_LinksArray_To_List() {
+    list->Load_Global_LinksArray_To_List(edit.Selected());
+    panel->Show_Row(edit.Selected_Row());
 }
 
 void frmLinksEdit::Store_Panel() {
-    if (selectedRow < 0 || selectedRow >= static_cast<int>(Global_LinkArray.size()) ||
-        !panel->Store_Row(Global_LinkArray[static_cast<std::size_t>(selectedRow)]))
+    const LinkRec* row = edit.Selected_Row();
+    if (row == nullptr)
         return;
-    dirty = true;
-    list->Update_Row(selectedRow);
+    LinkRec changed = *row;
+    panel->Store_Row(changed);
+    if (edit.Store_Row(changed))
+        list->Update_Row(edit.Selected());
 }
 
-void frmLinksEdit::Select_Row(int row) {
+void frmLinksEdit::Row_Selected(int row) {
     Store_Panel();
-    selectedRow = row;
-    Show_Panel();
+    edit.Select(row);
+    panel->Show_Row(edit.Selected_Row());
 }
 
-void frmLinksEdit::Run(Needs needs, const Command& command) {
-    if (needs == Needs::Row && selectedRow < 0)
-        return;
+bool frmLinksEdit::Run(const std::function<bool()>& command) {
     Store_Panel();
-    undo.Take_Snapshot(Global_LinkArray);
-    const int row = command(Global_LinkArray, selectedRow);
-    if (row == NothingMoved)
-        return;
-    dirty = true;
-    Load_Global_LinksArray_To_List(row);
+    const bool changed = command();
+    if (changed)
+        Load_Global_LinksArray_To_List();
+    return changed;
 }
 
-void frmLinksEdit::Add_NewLink(const QString& target, const QString& title) {
-    Run(Needs::Nothing, [&](LinkRows& rows, int selected) {
-        const int row = Add_Link(rows, selected, target);
-        if (!title.isEmpty())
-            rows[static_cast<std::size_t>(row)].LinkName = title;
-        return row;
-    });
+void frmLinksEdit::Add_Link(const QString& target, const QString& title) {
+    Run([&] { return edit.Add_Link(target, title); });
     panel->Focus_Title();
 }
 
-void frmLinksEdit::Add_NewCategory() {
-    Store_Panel();
-    LinkRows rows = Global_LinkArray;
-    if (!Add_Category(rows, selectedRow)) {
+void frmLinksEdit::wbButton11_Click() {
+    if (Run([this] { return edit.Add_Category(); }))
+        panel->Focus_Title();
+    else
         platform::Dialogs::Get().Message(u"Only 8 sub Categories are supported"_s,
                                          platform::BoxStyle::Exclamation);
-        return;
-    }
-    Run(Needs::Nothing, [](LinkRows& all, int selected) {
-        return Add_Category(all, selected).value_or(NothingMoved);
-    });
-    panel->Focus_Title();
 }
 
-void frmLinksEdit::Move(MoveDirection direction) {
-    Run(Needs::Row,
-        [direction](LinkRows& rows, int selected) { return MoveLink(rows, selected, direction); });
+void frmLinksEdit::wbButton3_Click() {
+    Run([this] { return edit.Move(MoveDirection::Up); });
 }
 
-// One command, of as many single moves as it takes; a category goes past one at a time.
-void frmLinksEdit::Drag_Row(int from, int to) {
-    if (from != selectedRow)
-        return;
-    Run(Needs::Row, [to](LinkRows& rows, int selected) {
-        const MoveDirection direction = to < selected ? MoveDirection::Up : MoveDirection::Down;
-        int row = selected;
-        while (direction == MoveDirection::Up ? row > to : row < to) {
-            const int moved = MoveLink(rows, row, direction);
-            if (moved == NothingMoved)
-                break;
-            row = moved;
-        }
-        return row == selected ? NothingMoved : row;
-    });
+void frmLinksEdit::wbButton4_Click() {
+    Run([this] { return edit.Move(MoveDirection::Down); });
 }
 
-void frmLinksEdit::Delete_Selected() {
+void frmLinksEdit::wbButton5_Click() {
+    Run([this] { return edit.Move_Left(); });
+}
+
+void frmLinksEdit::wbButton6_Click() {
+    Run([this] { return edit.Move_Right(); });
+}
+
+void frmLinksEdit::wbButton7_Click() {
     Store_Panel();
-    if (selectedRow < 0)
-        return;
-    const LinkRec row = Global_LinkArray[static_cast<std::size_t>(selectedRow)];
-    if (Is_Category(row)) {
-        const QPointer<frmLinksEdit> alive(this);
-        const auto answer = platform::Dialogs::Get().Question(
-            u"Are you sure you want to delete the category:\r\n"_s + row.LinkName + u" ?"_s, false,
-            {u"Tockly"_s, platform::BoxStyle::Question, platform::Answer::No});
-        if (answer != platform::Answer::Yes || !alive || Program_Is_Ending() || selectedRow < 0 ||
-            Global_LinkArray[static_cast<std::size_t>(selectedRow)] != row)
-            return;
-    }
-    Run(Needs::Row, [](LinkRows& rows, int selected) {
-        Delete_Row(rows, selected);
-        return std::min(selected, static_cast<int>(rows.size()) - 1);
-    });
+    if (edit.Selected_Row() != nullptr && (!Is_Category(*edit.Selected_Row()) || Ask_Delete()))
+        Run([this] { return edit.Delete(); });
 }
 
-void frmLinksEdit::Undo() {
-    if (undo.Undo(Global_LinkArray)) {
-        dirty = true;
-        Load_Global_LinksArray_To_List(
-            std::min(selectedRow, static_cast<int>(Global_LinkArray.size()) - 1));
-    }
+bool frmLinksEdit::Ask_Delete() {
+    const LinkRec row = *edit.Selected_Row();
+    const QPointer<frmLinksEdit> alive(this);
+    return Ask(u"Are you sure you want to delete the category:\r\n"_s +
+               row.LinkName.left(ShownName) + u" ?"_s) &&
+           alive && Is_Here() && edit.Selected_Row() != nullptr && *edit.Selected_Row() == row;
 }
 
-void frmLinksEdit::Ok() {
+void frmLinksEdit::wbButton9_Click() {
+    Run([this] { return edit.Undo(); });
+}
+
+void frmLinksEdit::wbButton10_Click() {
     Store_Panel();
-    dirty = true;
+    edit.Apply();
 }
 
-void frmLinksEdit::Apply() {
+void frmLinksEdit::wbButton2_Click() {
     Store_Panel();
-    savedCopy = Global_LinkArray;
-    dirty = false;
-    Load_Global_LinksArray();
+    if (edit.Selected() >= 0)
+        edit.Mark_Changed();
+}
+
+void frmLinksEdit::Show_Help() {
+    Show_HelpPage(HelpPage);
 }
 
 void frmLinksEdit::Browse() {
     const QPointer<frmLinksEdit> alive(this);
-    const int row = selectedRow;
-    const auto chosen =
-        platform::Dialogs::Get().Open_File(u"Open File"_s, {}, u"All Files (*.*)"_s);
-    if (!chosen || !alive || Program_Is_Ending())
+    const int row = edit.Selected();
+    platform::Dialogs& dialogs = platform::Dialogs::Get();
+    const auto chosen = dialogs.Open_File(u"Open File"_s, {}, u"All Files (*.*)"_s);
+    if (!chosen || !alive || !Is_Here() || row != edit.Selected())
         return;
-    if (!platform::Files::Get().Exists(chosen->Path))
-        platform::Dialogs::Get().Message(u"Can't open file: "_s + chosen->Path,
-                                         platform::BoxStyle::Critical);
-    else if (row == selectedRow)
-        panel->Set_Path(chosen->Path);
+    if (!platform::Files::Get().Exists(chosen->Path) || !panel->Set_Path(chosen->Path))
+        dialogs.Message(u"Can't open file: "_s + chosen->Path.left(ShownName),
+                        platform::BoxStyle::Critical);
 }
 
 void frmLinksEdit::Drop_File(const QString& path) {
     const QPointer<frmLinksEdit> alive(this);
-    const auto answer =
-        platform::Dialogs::Get().Question(u"Add link to file ?\r\n"_s + path, false);
-    if (answer == platform::Answer::Yes && alive && !Program_Is_Ending())
-        Add_NewLink(path, path.mid(path.lastIndexOf(u'/') + 1));
+    if (Ask(u"Add link to file ?\r\n"_s + path.left(ShownName)) && alive && Is_Here())
+        Add_Link(path, path.mid(path.lastIndexOf(u'/') + 1));
 }
 
 bool frmLinksEdit::Query_Unload(UnloadMode mode) {
     Store_Panel();
     // The end of the program takes the list as it stands.
-    if (!dirty || mode == UnloadMode::Ending)
+    if (!edit.Is_Dirty() || mode == UnloadMode::Ending)
         return true;
     const QPointer<frmLinksEdit> alive(this);
-    const auto answer = platform::Dialogs::Get().Question(u"Save new list ?"_s, false);
+    const bool save = Ask(u"Save new list ?"_s);
     if (!alive || Program_Is_Ending())
         return true;
-    if (answer == platform::Answer::Yes) {
-        Apply();
-        return true;
-    }
-    Global_LinkArray = savedCopy;
-    dirty = false;
+    if (save)
+        wbButton10_Click();
+    edit.Restore_Saved();
     return true;
 }
 
 void frmLinksEdit::keyPressEvent(QKeyEvent* event) {
-    const bool alt = event->modifiers().testFlag(Qt::AltModifier);
-    const int key = event->key();
-    if (key == Qt::Key_F1)
-        Show_HelpPage(HelpPage);
-    else if (key == Qt::Key_Insert)
-        Add_NewLink(u"http://"_s, {});
-    else if (key == Qt::Key_Delete)
-        Delete_Selected();
-    else if (key == Qt::Key_Z && event->modifiers() == Qt::ControlModifier)
-        Undo();
-    else if (alt && key == Qt::Key_Up)
-        Move(MoveDirection::Up);
-    else if (alt && key == Qt::Key_Down)
-        Move(MoveDirection::Down);
-    else if (alt && key == Qt::Key_Left)
-        Run(Needs::Row, Move_Category_Left);
-    else if (alt && key == Qt::Key_Right)
-        Run(Needs::Row, Move_Category_Right);
-    else
-        Form::keyPressEvent(event);
+    const struct {
+        int Key;
+        Qt::KeyboardModifiers With;
+        void (frmLinksEdit::*Command)();
+    } keys[] = {
+        {Qt::Key_F1, Qt::NoModifier, &frmLinksEdit::Show_Help},
+        {Qt::Key_Insert, Qt::NoModifier, &frmLinksEdit::wbButton8_Click},
+        {Qt::Key_Z, Qt::ControlModifier, &frmLinksEdit::wbButton9_Click},
+        {Qt::Key_Up, Qt::AltModifier, &frmLinksEdit::wbButton3_Click},
+        {Qt::Key_Down, Qt::AltModifier, &frmLinksEdit::wbButton4_Click},
+        {Qt::Key_Left, Qt::AltModifier, &frmLinksEdit::wbButton5_Click},
+        {Qt::Key_Right, Qt::AltModifier, &frmLinksEdit::wbButton6_Click},
+    };
+    const Qt::KeyboardModifiers with = event->modifiers() & ~Qt::KeypadModifier;
+    for (const auto& key : keys)
+        if (event->key() == key.Key && with == key.With)
+            return (this->*key.Command)();
+    // A button that has the focus must not delete a row.
+    if (event->key() == Qt::Key_Delete && list->hasFocus())
+        return wbButton7_Click();
+    Form::keyPressEvent(event);
 }
 
 void Show_LinksEditor() {

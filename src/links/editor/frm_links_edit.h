@@ -3,57 +3,64 @@
 #pragma once
 
 #include "controls/form.h"
-#include "links/editor/link_operations.h"
-#include "links/editor/link_undo.h"
+#include "links/editor/link_edit.h"
 
 #include <functional>
 
 class LinksList;
 class PropertyPanel;
 class wbButton;
-enum class IconName;
 
 class frmLinksEdit : public Form {
     Q_OBJECT
 public:
     frmLinksEdit();
 
-    // What stands in the panel goes to its row.
+    // What stands in the panel goes to its row; no window is drawn for it.
     void Store_Panel();
-    bool Is_Dirty() const { return dirty; }
 
 protected:
     bool Query_Unload(UnloadMode mode) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    // Does its work on the rows and the selected one; returns the row to select, or NothingMoved.
-    using Command = std::function<int(LinkRows& rows, int selected)>;
-    enum class Needs { Row, Nothing };
-
-    wbButton* Add_Button(const QString& caption, IconName icon, const QRect& place,
-                         std::function<void()> click);
+    void Build_List();
     void Build_Buttons();
-    void Run(Needs needs, const Command& command);
-    void Load_Global_LinksArray_To_List(int selectedRow);
-    void Show_Panel();
-    void Select_Row(int row);
+    bool Is_Here() const;
 
-    void Add_NewLink(const QString& target, const QString& title);
-    void Add_NewCategory();
-    void Move(MoveDirection direction);
-    void Drag_Row(int from, int to);
-    void Delete_Selected();
-    void Undo();
-    void Apply();
-    void Ok();
+    // Stores the panel, runs the command and, if it has changed something, shows the list anew.
+    bool Run(const std::function<bool()>& command);
+    void Load_Global_LinksArray_To_List();
+    void Row_Selected(int row);
+
+    void Add_Link(const QString& target, const QString& title);
+    void wbButton8_Click() { Add_Link(QStringLiteral("http://"), {}); }
+    void wbButton11_Click();
+    void wbButton3_Click();
+    void wbButton4_Click();
+    void wbButton5_Click();
+    void wbButton6_Click();
+    void wbButton7_Click();
+    void wbButton9_Click();
+    void wbButton10_Click();
+    void wbButton2_Click();
+    void Show_Help();
     void Browse();
     void Drop_File(const QString& path);
+    bool Ask_Delete();
 
+    LinkEdit edit;
     LinksList* list = nullptr;
     PropertyPanel* panel = nullptr;
-    int selectedRow = -1; // whose properties stand in the panel
-    bool dirty = false;   // since the last save
-    LinkRows savedCopy;
-    UndoRing undo;
+    wbButton* wbButton8 = nullptr;  // add link
+    wbButton* wbButton11 = nullptr; // add category
+    wbButton* wbButton3 = nullptr;  // up
+    wbButton* wbButton4 = nullptr;  // down
+    wbButton* wbButton5 = nullptr;  // left
+    wbButton* wbButton6 = nullptr;  // right
+    wbButton* wbButton7 = nullptr;  // delete
+    wbButton* wbButton9 = nullptr;  // undo
+    wbButton* wbButton2 = nullptr;  // ok
+    wbButton* wbButton10 = nullptr; // apply
+    wbButton* wbButton14 = nullptr; // help
 };

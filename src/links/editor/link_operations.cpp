@@ -19,6 +19,10 @@ LinkRec& At(LinkRows& rows, int row) {
     return rows[static_cast<std::size_t>(row)];
 }
 
+bool Is_Row(const LinkRows& rows, int row) {
+    return row >= 0 && row < Count(rows);
+}
+
 LinkRows::iterator Place(LinkRows& rows, int row) {
     return rows.begin() + row;
 }
@@ -63,29 +67,16 @@ int Move_SingleRow(LinkRows& rows, int row, int other) {
     return other;
 }
 
-// The first one stands above the second; what is between them stays there. Returns where the block
-// begins that stood at "of".
-int Exchange_Category_Blocks(LinkRows& rows, int first, int second, int of) {
-    const int depth = Row_Depth(At(rows, first));
-    const int firstEnd = Block_End(rows, first, depth);
-    const int secondEnd = Block_End(rows, second, depth);
-    const LinkRows upper(Place(rows, first), Place(rows, firstEnd));
-    const LinkRows between(Place(rows, firstEnd), Place(rows, second));
-    const LinkRows lower(Place(rows, second), Place(rows, secondEnd));
-    auto target = std::copy(lower.begin(), lower.end(), Place(rows, first));
-    target = std::copy(between.begin(), between.end(), target);
-    std::copy(upper.begin(), upper.end(), target);
-    return of == second ? first : first + Count(lower) + Count(between);
-}
-
-// A category of the same depth under another parent will do: that is meant.
-int Move_CategoryRow(LinkRows& rows, int row, MoveDirection direction) {
-    const QString prefix = At(rows, row).URL.left(2);
+// The row it changes places with; -1 = none. A category of the same depth under another parent will
+// do: that is meant.
+int Partner_Of(const LinkRows& rows, int row, MoveDirection direction) {
     const int step = direction == MoveDirection::Up ? -1 : 1;
-    for (int other = row + step; other >= 0 && other < Count(rows); other += step)
-        if (At(rows, other).URL.startsWith(prefix))
-            return Exchange_Category_Blocks(rows, std::min(row, other), std::max(row, other), row);
-    return NothingMoved;
+    int other = row + step;
+    if (Is_Category(At(rows, row)))
+        while (Is_Row(rows, other) && !(Is_Category(At(rows, other)) &&
+                                        Row_Depth(At(rows, other)) == Row_Depth(At(rows, row))))
+            other += step;
+    return Is_Row(rows, other) ? other : -1;
 }
 
 // Takes the block out, changes its depths, and puts it before the row that stood at "place".
@@ -113,10 +104,6 @@ int Category_At_Depth(const LinkRows& rows, int row, int depth) {
         if (fits(other))
             return other;
     return -1;
-}
-
-bool Is_Row(const LinkRows& rows, int row) {
-    return row >= 0 && row < Count(rows);
 }
 
 int Insert_Row(LinkRows& rows, int selected, LinkRec row) {
@@ -187,13 +174,43 @@ void Delete_Row(LinkRows& rows, int row) {
     rows.erase(Place(rows, row), Place(rows, end));
 }
 
+void Exchange_Category_Blocks(LinkRows& rows, int Row, int Found, int& NewRow) {
+    const int first = std::min(Row, Found);
+    const int second = std::max(Row, Found);
+    const int depth = Row_Depth(At(rows, Row));
+    const int firstEnd = Block_End(rows, first, depth);
+    const int secondEnd = Block_End(rows, second, depth);
+    // First the two and what stands between them as one block, then without the lower one.
+    std::rotate(Place(rows, first), Place(rows, second), Place(rows, secondEnd));
+    const int behindLower = first + (secondEnd - second);
+    const int between = second - firstEnd;
+    std::rotate(Place(rows, behindLower), Place(rows, behindLower + (firstEnd - first)),
+                Place(rows, secondEnd));
+    NewRow = Row == second ? first : behindLower + between;
+}
+
 int MoveLink(LinkRows& rows, int Row, MoveDirection Direction) {
-    if (!Is_Row(rows, Row))
+    const int other = Is_Row(rows, Row) ? Partner_Of(rows, Row, Direction) : -1;
+    if (other < 0)
         return NothingMoved;
-    if (Is_Category(At(rows, Row)))
-        return Move_CategoryRow(rows, Row, Direction);
-    const int other = Direction == MoveDirection::Up ? Row - 1 : Row + 1;
-    return Is_Row(rows, other) ? Move_SingleRow(rows, Row, other) : NothingMoved;
+    if (!Is_Category(At(rows, Row)))
+        return Move_SingleRow(rows, Row, other);
+    int newRow = Row;
+    Exchange_Category_Blocks(rows, Row, other, newRow);
+    return newRow;
+}
+
+int Move_Row_To(LinkRows& rows, int row, int target) {
+    if (!Is_Row(rows, row))
+        return NothingMoved;
+    const auto direction = target < row ? MoveDirection::Up : MoveDirection::Down;
+    int place = row;
+    for (;;) {
+        const int other = Partner_Of(rows, place, direction);
+        if (other < 0 || (direction == MoveDirection::Up ? other < target : other > target))
+            return place == row ? NothingMoved : place;
+        place = MoveLink(rows, place, direction);
+    }
 }
 
 int Move_Category_Left(LinkRows& rows, int row) {

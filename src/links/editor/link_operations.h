@@ -36,6 +36,11 @@ void Delete_Row(LinkRows& rows, int row);
 
 // The new index of the row; NothingMoved: the list is as it was.
 int MoveLink(LinkRows& rows, int Row, MoveDirection Direction);
+// Step by step towards another row, as far as that one; what dragging does.
+int Move_Row_To(LinkRows& rows, int row, int target);
+// Two categories of one depth with their blocks, in either order; what stands between them stays
+// there. NewRow: where the block of Row begins then.
+void Exchange_Category_Blocks(LinkRows& rows, int Row, int Found, int& NewRow);
 int Move_Category_Left(LinkRows& rows, int row);
 int Move_Category_Right(LinkRows& rows, int row);
 

@@ -1,7 +1,9 @@
 #include "links/editor/link_undo.h"
 
+#include <algorithm>
+
 void UndoClass::SetArraySize(std::int32_t n) {
-    rows.assign(static_cast<std::size_t>(n + 1), {});
+    rows.assign(static_cast<std::size_t>(std::max(n, -1) + 1), {});
     cursor = 0;
 }
 
@@ -35,11 +37,6 @@ void UndoRing::Take_Snapshot(const std::vector<LinkRec>& rows) {
     for (std::size_t row = 0; row < count; ++row)
         snapshot.SetLinkData(rows[row].URL, rows[row].LinkName, rows[row].Description,
                              rows[row].StartSize);
-}
-
-void UndoRing::Drop_Last() {
-    if (!snapshots.empty())
-        snapshots.pop_back();
 }
 
 bool UndoRing::Undo(std::vector<LinkRec>& rows) {

@@ -5,11 +5,11 @@
 #include "controls/palette.h"
 #include "controls/svg_icon.h"
 #include "links/editor/link_operations.h"
+#include "platform/desktop.h"
 
 #include <QAbstractListModel>
 #include <QApplication>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,6 +31,7 @@ constexpr int RowHeight = 20;
 constexpr int Indent = 18; // a depth
 constexpr int PictureSize = 16;
 constexpr int FollowInterval = 10; // ms
+constexpr double DraggedOpacity = 0.6;
 constexpr qsizetype MeasuredText = 300;
 constexpr ColorValue SelectedBack = 0xEFE2E0;
 
@@ -75,6 +76,8 @@ public:
     }
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
+        if (static_cast<std::size_t>(index.row()) >= Global_LinkArray.size())
+            return;
         const LinkRec& row = Global_LinkArray[static_cast<std::size_t>(index.row())];
         if (option.state.testFlag(QStyle::State_Selected))
             painter->fillRect(option.rect, palette::To_Color(SelectedBack));
@@ -89,8 +92,7 @@ public:
             option.rect.adjusted(left - option.rect.left() + PictureSize + 6, 0, -4, 0);
         painter->drawText(
             text, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-            QFontMetrics(font).elidedText(row.LinkName.left(MeasuredText).simplified(),
-                                          Qt::ElideRight, text.width()));
+            QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, text.width()));
     }
 };
 
@@ -101,14 +103,14 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     int rowCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : static_cast<int>(Link_Count(Global_LinkArray));
+        return parent.isValid() ? 0 : static_cast<int>(Global_LinkArray.size());
     }
     QVariant data(const QModelIndex& index, int role) const override {
         if (!index.isValid() || index.row() >= rowCount({}))
             return {};
         const LinkRec& row = Global_LinkArray[static_cast<std::size_t>(index.row())];
         if (role == Qt::DisplayRole)
-            return row.LinkName;
+            return row.LinkName.left(MeasuredText).simplified();
         if (role == Qt::AccessibleDescriptionRole)
             return u"%1, level %2"_s.arg(Kind_Of(Icon_Of(row))).arg(Row_Depth(row) + 1);
         if (role == Qt::ToolTipRole)
@@ -132,14 +134,24 @@ LinksList::LinksList(QWidget* parent) : QListView(parent), rows(new LinksModel(t
     setFont(Small_Font());
     setAccessibleName(u"My Links"_s);
     setAcceptDrops(true);
-    Timer1.setInterval(FollowInterval);
-    connect(&Timer1, &QTimer::timeout, this, &LinksList::Follow_Mouse);
+    for (QTimer* timer : {&Timer1, &Timer3, &Timer4})
+        timer->setInterval(FollowInterval);
+    connect(&Timer1, &QTimer::timeout, this, &LinksList::Timer1_Tick);
+    connect(&Timer3, &QTimer::timeout, this, [this] { Scroll_List(mouse.y()); });
+    connect(&Timer4, &QTimer::timeout, this,
+            [this] { Scroll_List(mouse.y() - viewport()->height()); });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!loading)
+            Q_EMIT Row_Selected(Selected_Row());
+    });
 }
 
 void LinksList::Load_Global_LinksArray_To_List(int selectedRow) {
+    End_Drag();
     const int scrolled = verticalScrollBar()->value();
     loading = true;
     rows->Reset();
+    doItemsLayout();
     verticalScrollBar()->setValue(scrolled);
     if (selectedRow >= 0 && selectedRow < rows->rowCount({}))
         setCurrentIndex(rows->index(selectedRow));
@@ -151,98 +163,139 @@ void LinksList::Update_Row(int row) {
 }
 
 int LinksList::Selected_Row() const {
-    return currentIndex().isValid() ? currentIndex().row() : -1;
-}
-
-void LinksList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QListView::currentChanged(current, previous);
-    if (!loading && current.isValid())
-        Q_EMIT Row_Selected(current.row());
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    return selected.isEmpty() ? -1 : selected.front().row();
 }
 
 int LinksList::Row_At(const QPoint& place) const {
-    const QPoint inside(std::clamp(place.x(), 0, viewport()->width() - 1),
-                        std::clamp(place.y(), 0, viewport()->height() - 1));
+    const QPoint inside(1, std::clamp(place.y(), 0, viewport()->height() - 1));
     const QModelIndex index = indexAt(inside);
     return index.isValid() ? index.row() : rows->rowCount({}) - 1;
 }
 
 void LinksList::mousePressEvent(QMouseEvent* event) {
+    End_Drag();
     QListView::mousePressEvent(event);
-    pressed.reset();
-    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid())
-        pressed = event->pos();
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && index.isValid()) {
+        pressedRow = index.row();
+        pressedAt = event->pos();
+    }
 }
 
+// A list of the toolkit would select every row on the way.
 void LinksList::mouseMoveEvent(QMouseEvent* event) {
-    if (!pressed || !event->buttons().testFlag(Qt::LeftButton))
+    if (pressedRow < 0)
         return;
-    if (draggedRow < 0 &&
-        (event->pos() - *pressed).manhattanLength() >= QApplication::startDragDistance()) {
-        draggedRow = Selected_Row();
-        Timer1.start();
-    }
-    if (draggedRow >= 0) {
-        targetRow = Row_At(event->pos());
-        viewport()->update();
-    }
-}
-
-// Above and below the list the mouse scrolls it.
-void LinksList::Follow_Mouse() {
-    if (!QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
         End_Drag();
         return;
     }
-    const QPoint place = viewport()->mapFromGlobal(QCursor::pos());
-    const int beyond = place.y() < 0 ? place.y() : std::max(place.y() - viewport()->height(), 0);
-    if (beyond != 0) {
-        verticalScrollBar()->setValue(verticalScrollBar()->value() +
-                                      std::clamp(beyond / 4, -RowHeight, RowHeight));
-        targetRow = Row_At(place);
-        viewport()->update();
+    const bool isFar =
+        (event->pos() - pressedAt).manhattanLength() >= QApplication::startDragDistance();
+    if (draggedRow < 0 && isFar) {
+        draggedRow = pressedRow;
+        Timer1.start();
     }
+    if (draggedRow >= 0)
+        Aim_At(event->pos());
+}
+
+void LinksList::Aim_At(const QPoint& place) {
+    mouse = place;
+    targetRow = Row_At(place);
+    const auto enable = [](QTimer& timer, bool enabled) {
+        if (enabled != timer.isActive())
+            enabled ? timer.start() : timer.stop();
+    };
+    enable(Timer3, place.y() < 0);
+    enable(Timer4, place.y() >= viewport()->height());
+    viewport()->update();
+}
+
+void LinksList::Timer1_Tick() {
+    // Where the system does not tell, the mouse's own events will do.
+    if (const auto cursor = platform::Desktop::Get().Cursor_Position())
+        Aim_At(viewport()->mapFromGlobal(QPoint(cursor->x, cursor->y)));
+}
+
+// The farther the mouse is from the list, the faster.
+void LinksList::Scroll_List(int beyond) {
+    const int step = std::clamp(beyond / 8, -RowHeight, RowHeight) + (beyond < 0 ? -1 : 1);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + step);
+    targetRow = Row_At(mouse);
+    viewport()->update();
 }
 
 void LinksList::End_Drag() {
-    Timer1.stop();
-    pressed.reset();
-    draggedRow = targetRow = -1;
+    for (QTimer* timer : {&Timer1, &Timer3, &Timer4})
+        timer->stop();
+    pressedRow = draggedRow = targetRow = -1;
     viewport()->update();
 }
 
 void LinksList::mouseReleaseEvent(QMouseEvent* event) {
     const int from = draggedRow;
+    if (from >= 0)
+        Aim_At(event->pos());
     const int to = targetRow;
     End_Drag();
-    QListView::mouseReleaseEvent(event);
-    if (from >= 0 && to >= 0 && to != from)
+    if (from < 0)
+        QListView::mouseReleaseEvent(event);
+    else if (to >= 0 && to != from)
         Q_EMIT Row_Dragged(from, to);
 }
 
+void LinksList::hideEvent(QHideEvent* event) {
+    End_Drag();
+    QListView::hideEvent(event);
+}
+
+void LinksList::focusOutEvent(QFocusEvent* event) {
+    End_Drag();
+    QListView::focusOutEvent(event);
+}
+
 void LinksList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && draggedRow >= 0)
+    const int key = event->key();
+    if (key == Qt::Key_Escape && draggedRow >= 0)
         End_Drag();
-    else if (event->key() == Qt::Key_Escape || event->modifiers().testFlag(Qt::AltModifier) ||
+    else if (key == Qt::Key_Escape || event->modifiers().testFlag(Qt::AltModifier) ||
              event->modifiers().testFlag(Qt::ControlModifier))
         event->ignore();
+    else if (Selected_Row() < 0 && (key == Qt::Key_Down || key == Qt::Key_Up))
+        setCurrentIndex(rows->index(0));
     else
         QListView::keyPressEvent(event);
 }
 
 void LinksList::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (targetRow < 0 || targetRow == draggedRow)
+    if (draggedRow < 0 || targetRow < 0)
         return;
-    // SelShape: the place that the row would take.
-    const QRect place = visualRect(rows->index(targetRow));
     QPainter painter(viewport());
-    const int line = targetRow < draggedRow ? place.top() : place.bottom() - 1;
-    painter.fillRect(place.left(), line, place.width(), 2, palette::To_Color(palette::Focus_Mark));
+    if (targetRow != draggedRow) {
+        // SelShape: the place that the row would take.
+        const QRect place = visualRect(rows->index(targetRow));
+        const int line = targetRow < draggedRow ? place.top() : place.bottom() - 1;
+        painter.fillRect(place.left(), line, place.width(), 2,
+                         palette::To_Color(palette::Focus_Mark));
+    }
+    Paint_DraggedRow(painter);
 }
 
+void LinksList::Paint_DraggedRow(QPainter& painter) {
+    QStyleOptionViewItem look;
+    initViewItemOption(&look);
+    look.rect = QRect(0, mouse.y() - RowHeight / 2, viewport()->width(), RowHeight);
+    painter.setOpacity(DraggedOpacity);
+    itemDelegate()->paint(&painter, look, rows->index(draggedRow));
+}
+
+// One file; more at once are no link.
 void LinksList::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls())
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile())
         event->acceptProposedAction();
 }
 
@@ -252,11 +305,11 @@ void LinksList::dragMoveEvent(QDragMoveEvent* event) {
 
 void LinksList::dropEvent(QDropEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() != 1 || !urls.first().isLocalFile())
+    if (urls.size() != 1 || !urls.front().isLocalFile())
         return;
     event->acceptProposedAction();
     // After the drop has returned: a question must not hold the window that the file comes from.
-    const QString path = urls.first().toLocalFile();
+    const QString path = urls.front().toLocalFile();
     QMetaObject::invokeMethod(
         this, [this, path] { Q_EMIT File_Dropped(path); }, Qt::QueuedConnection);
 }

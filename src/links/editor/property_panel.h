@@ -17,23 +17,28 @@ class PropertyPanel : public QWidget {
 public:
     explicit PropertyPanel(QWidget* parent);
 
-    // Nothing: no row is selected.
+    // nullptr: no row is selected.
     void Show_Row(const LinkRec* row);
-    // What the panel says goes to the row it shows; false: nothing differs.
-    bool Store_Row(LinkRec& row) const;
-    void Set_Path(const QString& path);
+    // Puts into the row that it shows what somebody has changed here.
+    void Store_Row(LinkRec& row) const;
+    // False: no file could hold it.
+    bool Set_Path(const QString& path);
     void Focus_Title();
 
 Q_SIGNALS:
     void Browse();
+    void Entered(); // Enter in a field
 
 private:
-    QLineEdit* Add_Field(const QString& label, int top, int width);
+    enum class Before { Nothing, Depth };
+    QLabel* Add_Heading(const QString& text, int top, int tip);
+    QLineEdit* Add_Field(const QString& label, int top, int width, int tip, Before before);
+    void Add_Sizes(int top);
 
     QLineEdit* titleField = nullptr;
     QLineEdit* pathField = nullptr;
     QLineEdit* descriptionField = nullptr;
     wbButton* wbButton1 = nullptr; // browse
     std::array<QRadioButton*, 3> sizes{};
-    std::array<QLabel*, 2> hints{};
+    QLabel* hint = nullptr;
 };

@@ -1,0 +1,177 @@
+#include "links/store/link_rec.h"
+#include "links/store/links_data.h"
+#include "support/fake_system.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace std::string_literals;
+
+namespace {
+
+class LinksStore : public testing::Test {
+protected:
+    LinksStore() {
+        Global_LinkArray.clear();
+        Global_DefaultLinkArray.clear();
+    }
+    ~LinksStore() override {
+        Global_LinkArray.clear();
+        Global_DefaultLinkArray.clear();
+        On_LinksTree_Changed({});
+    }
+    std::string Saved() {
+        EXPECT_TRUE(Save_Links_File(file));
+        return system.files.Read(file).value_or("no such file");
+    }
+    int Load(const std::string& bytes) {
+        EXPECT_TRUE(system.files.Replace(file, bytes));
+        return Load_Links_File(file);
+    }
+    // "a, b, Category(c)": the links of a level, then its categories.
+    static QString Text_Of(const LinksData& level) {
+        QStringList parts;
+        for (std::int32_t index = 0; index <= level.Get_TotalLinks(); ++index) {
+            QString url, name, description;
+            std::int32_t visited = 0;
+            std::uint8_t size = 0;
+            level.Get_LinkData(index, url, name, description, visited, size);
+            parts << url;
+        }
+        for (std::int32_t index = 0; index <= level.Get_TotalCategories(); ++index) {
+            QString name;
+            std::int32_t serial = -1;
+            std::shared_ptr<LinksData> below;
+            level.Get_CategoryData(index, name, serial, below);
+            parts << u"%1#%2("_s.arg(name).arg(serial) + Text_Of(*below) + u')';
+        }
+        return parts.join(u", "_s);
+    }
+    static QString Tree_Of(const QStringList& urls) {
+        Global_LinkArray.clear();
+        for (const QString& url : urls)
+            Global_LinkArray.push_back({url, u"C"_s, {}});
+        Load_Global_LinksArray();
+        return Text_Of(*Global_LinksRoot);
+    }
+
+    FakeSystem system;
+    QTemporaryDir folder;
+    QString file = folder.filePath(u"links.dat"_s);
+};
+
+const std::string Start = "LinksSaveFile001";
+// Two rows: "0http://a" "Name" "" 2, and "@0Category" "C" "d" 0. The index of the last row is 1.
+const std::string TwoRows = Start + "\x01\0\0\0"s + "\x09\0"s + "0http://a" + "\x04\0"s + "Name" +
+                            "\0\0\x02"s + "\x0A\0"s + "@0Category" + "\x01\0"s + "C" + "\x01\0"s +
+                            "d" + "\0"s;
+
+TEST_F(LinksStore, A_list_is_stored_row_by_row_up_to_the_first_empty_address) {
+    EXPECT_EQ(Saved(), Start + "\xFF\xFF\xFF\xFF");
+    EXPECT_EQ(Load(Start + "\xFF\xFF\xFF\xFF"), 0);
+    EXPECT_TRUE(Global_LinkArray.empty());
+    const std::vector<LinkRec> rows = {{u"0http://a"_s, u"Name"_s, {}, 2},
+                                       {u"@0Category"_s, u"C"_s, u"d"_s, 0}};
+    Global_LinkArray = rows;
+    Global_LinkArray.push_back({{}, u"behind the end"_s, {}});
+    Global_LinkArray.push_back({u"0never"_s, {}, {}});
+    Build_Program_Links();
+    Load_Global_LinksArray(); // the program's own rows are in the tree only
+    EXPECT_EQ(Saved(), TwoRows);
+    EXPECT_EQ(Load(TwoRows), 0);
+    EXPECT_EQ(Global_LinkArray, rows);
+}
+
+TEST_F(LinksStore, A_broken_file_changes_nothing_and_is_kept_at_the_next_save) {
+    const std::vector<LinkRec> before = {{u"0before"_s, {}, {}}};
+    Global_LinkArray = before;
+    for (std::size_t size = 0; size < TwoRows.size(); ++size) {
+        EXPECT_NE(Load(TwoRows.substr(0, size)), 0) << size << " bytes";
+        EXPECT_EQ(Global_LinkArray, before);
+    }
+    const struct {
+        const char* Name;
+        std::string Bytes;
+        int Result;
+    } cases[] = {
+        {"no links file", "linksSaveFile001\xFF\xFF\xFF\xFF", -1},
+        {"another version", "LinksSaveFile002\xFF\xFF\xFF\xFF", -2},
+        {"two billion rows", Start + "\xFF\xFF\xFF\x7F" + std::string(70, '\0'), 1},
+        {"a last row of -2", Start + "\xFE\xFF\xFF\xFF", 1},
+        {"a text longer than the file", Start + "\0\0\0\0\xFF\xFF"s + std::string(99, 'x'), 1},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(Load(one.Bytes), one.Result) << one.Name;
+        EXPECT_EQ(Global_LinkArray, before) << one.Name;
+    }
+    EXPECT_EQ(Saved(), Start + "\0\0\0\0\x07\0"s + "0before" + std::string(5, '\0'));
+    EXPECT_EQ(system.files.Read(file + u".damaged"_s), cases[4].Bytes);
+    system.files.refusedReads << file;
+    EXPECT_NE(Load_Links_File(file), 0);
+    EXPECT_FALSE(Save_Links_File(file)); // what could not be read is not written over
+}
+
+TEST_F(LinksStore, Texts_come_back_whole_or_are_not_stored_at_all) {
+    const QString longest(65535, u'\u00E9'); // one byte each in the code page
+    const QString outside = u"\u0416\u4E2D \U0001F517"_s;
+    Global_LinkArray = {{u"0"_s + longest.mid(1), longest, longest, 255},
+                        {u"1"_s + outside, outside, outside, 1}};
+    const std::vector<LinkRec> rows = Global_LinkArray;
+    const std::string bytes = Saved();
+    EXPECT_EQ(bytes.substr(20, 4), "\xFF\xFF"s + "0\xE9");
+    Global_LinkArray.clear();
+    EXPECT_EQ(Load(bytes), 0);
+    EXPECT_EQ(Global_LinkArray, rows);
+    Global_LinkArray[0].URL += u'x';
+    EXPECT_FALSE(Save_Links_File(file));
+    EXPECT_EQ(system.files.Read(file), bytes);
+}
+
+TEST_F(LinksStore, The_tree_takes_any_list) {
+    const struct {
+        const char* Name;
+        QStringList URLs;
+        QString Tree;
+    } cases[] = {
+        {"an empty one", {}, {}},
+        {"categories in categories",
+         {u"0a"_s, u"@0Category"_s, u"1b"_s, u"@1Category"_s, u"2c"_s, u"1d"_s, u"@0Category"_s,
+          u"1e"_s, u"0f"_s},
+         u"a, f, C#0(b, d, C#1(c)), C#2(e)"_s},
+        {"nothing behind the end", {u"0a"_s, {}, u"0b"_s}, u"a"_s},
+        {"a row without a depth", {u"http"_s, u"@"_s, u"1a"_s, u"\u00E91"_s}, u"ttp, 1, C#0(a)"_s},
+        {"a jump of levels",
+         {u"5a"_s, u"@0Category"_s, u"9b"_s, u"@7Category"_s, u"9c"_s},
+         u"a, C#0(b, C#1(c))"_s},
+        {"the deepest category",
+         {u"@0"_s, u"@1"_s, u"@2"_s, u"@3"_s, u"@4"_s, u"@5"_s, u"@6"_s, u"@7"_s, u"@8"_s, u"@9"_s,
+          u"@9"_s, u"9a"_s},
+         u"C#0(C#1(C#2(C#3(C#4(C#5(C#6(C#7(C#8(a, C#9(), C#10())))))))))"_s},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(Tree_Of(one.URLs), one.Tree) << one.Name;
+    EXPECT_EQ(LinksData().Get_TotalLinks(), -1);
+    QString url, name, description;
+    std::int32_t visited = 0;
+    std::uint8_t size = 0;
+    LinksData().Get_LinkData(0, url, name, description, visited, size);
+    EXPECT_EQ(url + name + description, u"- Error - - Error - - Error - "_s);
+}
+
+TEST_F(LinksStore, The_programs_own_commands_stand_behind_the_users_rows) {
+    int told = 0;
+    On_LinksTree_Changed([&told] { ++told; });
+    Build_Default_Links();
+    Build_Program_Links();
+    Load_Global_LinksArray();
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(Global_LinkArray.size(), 7U);
+    const QString tree = Text_Of(*Global_LinksRoot);
+    EXPECT_TRUE(tree.contains(u"Example Category#0("_s)) << tree.toStdString();
+    EXPECT_TRUE(tree.endsWith(u"help:about, -, config:Reminder_Edit, config:Notes_Editor, "
+                              "config:Links_Edit, -, config:Program_Setup, config:Setup_Wizard)"_s))
+        << tree.toStdString();
+}
+
+} // namespace
