@@ -22,7 +22,7 @@ public:
         return now;
     }
     QString text(QAccessible::Text kind) const override {
-        const QString told = QAccessibleWidget::text(kind);
+        QString told = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !told.isEmpty())
             return told;
         return Box()->Caption().isEmpty() ? Box()->toolTip() : Box()->Caption();

@@ -1,5 +1,5 @@
 // A user's day on a real X desktop: reminders made, edited, copied and put away.
-#include "desktop/program_fixture.h"
+#include "desktop/driven.h"
 #include "desktop/records.h"
 
 #include <csignal>
@@ -9,54 +9,8 @@ namespace {
 const QString Wizard = u"Add new reminder"_s;
 const QString List = u"Reminders"_s;
 
-enum class Hand { Mouse, Keyboard };
-
-class Day : public Program {
+class Day : public Driven {
 protected:
-    QStringList At(int x, int y) const { return {QString::number(x), QString::number(y)}; }
-    void Click(const QString& window, int x, int y, const QString& button = u"1"_s) const {
-        desktop.XDo(QStringList{u"mousemove"_s, u"--window"_s, window} + At(x, y) +
-                    QStringList{u"click"_s, button});
-    }
-    void Keys(const QStringList& keys) const { desktop.XDo(QStringList{u"key"_s} + keys); }
-    void Type(const QString& text) const { desktop.XDo({u"type"_s, text}); }
-    // Instead of what stands in the field.
-    void Retype(const QString& text) const {
-        Keys({u"ctrl+a"_s});
-        Type(text);
-    }
-    QString Open(const QString& title, int button) const {
-        desktop.XDo(QStringList{u"mousemove"_s} + At(345 + button, 10) +
-                    QStringList{u"click"_s, u"1"_s});
-        return Wait_For_Focus(title);
-    }
-    // The window once it has the keyboard.
-    QString Wait_For_Focus(const QString& title) const {
-        QString window;
-        EXPECT_TRUE(Wait_Until([&] {
-            window = desktop.Visible_Windows(title).value(0);
-            return !window.isEmpty() && desktop.XDo({u"getactivewindow"_s}) == window;
-        })) << qPrintable(title);
-        return window;
-    }
-    void Wait_Until_Gone(const QString& title) const {
-        EXPECT_TRUE(Wait_Until([&] { return Count(title) == 0; })) << qPrintable(title);
-    }
-    // A popup menu, beside the program's other windows without such a title.
-    bool A_Menu_Is_Open(int before) const { return Windows_OfProgram() > before; }
-    int Windows_OfProgram() const {
-        return static_cast<int>(
-            desktop.XDo({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"^tockly$"_s})
-                .split(u'\n', Qt::SkipEmptyParts)
-                .size());
-    }
-    // Enter answers the box.
-    void Agree(const QString& title) const {
-        Wait_For_Focus(title);
-        Keys({u"Return"_s});
-        Wait_Until_Gone(title);
-    }
-
     // Through all eight pages, with one hour: 06:00.
     void Make_By_Mouse(int type, const QString& message) const {
         const QString window = Open(Wizard, 118);

@@ -94,8 +94,9 @@ QString TestDesktop::XDo(const QStringList& arguments) const {
 }
 
 QStringList TestDesktop::Visible_Windows(const QString& title) const {
-    return XDo({u"search"_s, u"--onlyvisible"_s, u"--name"_s,
-                u'^' + QRegularExpression::escape(title) + u'$'})
+    // An escaped quote would be the end of the text to the tool.
+    const QString pattern = QRegularExpression::escape(title).replace(u"\\'"_s, u"'"_s);
+    return XDo({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u'^' + pattern + u'$'})
         .split(u'\n', Qt::SkipEmptyParts);
 }
 

@@ -108,11 +108,13 @@ void frmReminderEdit::Use_Icon_Click() {
     }
     CategoryEntry& entry = Global_Categories[static_cast<std::size_t>(category)];
     entry.Icon = Picture10->IconSelIMG->Selected_Name().trimmed().toLower();
-    Change_Icons_OfCategory(entry.Name, QString(entry.Icon));
+    // Texts of their own: the table may change while the question is open.
+    const QString stored = entry.Name;
+    const QString icon = entry.Icon;
+    Change_Icons_OfCategory(stored, icon);
 }
 
-void frmReminderEdit::Change_Icons_OfCategory(const QString& categoryName, const QString& icon) {
-    const QString name = categoryName; // the table may change while the question is open
+void frmReminderEdit::Change_Icons_OfCategory(const QString& name, const QString& icon) {
     if (Slots_OfCategory(name).empty())
         return;
     const QString question = u"Icon changed. \r\nDo you want to change the icons of the reminders"

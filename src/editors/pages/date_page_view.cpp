@@ -156,8 +156,9 @@ void DatePage::View::Add_WeekOptions(WeekOption thisWeek, int top) {
         option->setFont(Small_Font());
         option->setGeometry(Right + Indent + 60 + next * 66, top - 2, 62, 17);
         option->setAccessibleName(next == 0 ? u"This week"_s : u"Next week"_s);
-        group->addButton(option, thisWeek + next);
-        Option1[static_cast<std::size_t>(thisWeek + next)] = option;
+        const int number = thisWeek + next;
+        group->addButton(option, number);
+        Option1[static_cast<std::size_t>(number)] = option;
     }
 }
 
@@ -198,8 +199,8 @@ void DatePage::View::Build_Start() {
 void DatePage::View::Build_Marks() {
     const auto Weekday_Group = [this](int monday) {
         QRect group;
-        for (int weekday = 0; weekday < 7; ++weekday)
-            group |= p2Chk[static_cast<std::size_t>(monday + weekday)]->geometry();
+        for (int box = monday; box < monday + 7; ++box)
+            group |= p2Chk[static_cast<std::size_t>(box)]->geometry();
         return group;
     };
     const std::array<QRect, 7> places{Text1->geometry(),          Text2->geometry(),

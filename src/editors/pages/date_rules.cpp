@@ -115,7 +115,8 @@ void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& 
     state.Option1[first + 1] = next;
     const int monday = exact ? ExactMonday : StartMonday;
     for (int weekday = 0; weekday < 7; ++weekday) {
-        const auto box = static_cast<std::size_t>(monday + weekday);
+        const int number = monday + weekday;
+        const auto box = static_cast<std::size_t>(number);
         state.Blocked[box] = !next && weekday < now.Weekday;
         if (state.Blocked[box])
             state.Ticks[box] = false;

@@ -115,7 +115,8 @@ HourRow Row_Of(const HourSetup& setup) {
 
 std::vector<HourRow> Rows_Of(const ReminderClass& reminder) {
     std::vector<HourRow> rows;
-    rows.reserve(static_cast<std::size_t>(reminder.HourSetupList_Size() + 1));
+    const std::int32_t count = reminder.HourSetupList_Size() + 1;
+    rows.reserve(static_cast<std::size_t>(count));
     for (std::int32_t index = 0; index <= reminder.HourSetupList_Size(); ++index)
         rows.push_back(Row_Of(reminder.GetHourSetup(index)));
     return rows;

@@ -117,7 +117,7 @@ QRadioButton* Add_Option(QWidget* parent, const QString& name, const QString& ca
 }
 
 ChkBox* Add_Check(QWidget* parent, const QString& name, const QString& caption, int left, int top,
-                  std::function<void(bool on)> ticked) {
+                  const std::function<void(bool on)>& ticked) {
     auto* box = new ChkBox(caption, left, top, parent);
     box->setObjectName(name);
     QObject::connect(box, &ChkBox::Checked, box, [ticked] { ticked(true); });

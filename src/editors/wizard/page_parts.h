@@ -34,7 +34,7 @@ QRadioButton* Add_Option(QWidget* parent, const QString& name, const QString& ca
                          int top);
 // ticked: told of every click.
 ChkBox* Add_Check(QWidget* parent, const QString& name, const QString& caption, int left, int top,
-                  std::function<void(bool on)> ticked);
+                  const std::function<void(bool on)>& ticked);
 wbButton* Add_Button(QWidget* parent, const QString& name, const QString& caption,
                      const QRect& place);
 // With a small picture of a calendar.

@@ -102,7 +102,7 @@ QString Apply_ToReminder(const QuickAddState& state, ReminderClass& reminder, Ba
     reminder.rs_Title = state.Title;
     reminder.rs_Text = state.Text;
     reminder.rs_Reminder_Type = state.DisplayMode;
-    if (const QString error = Apply_Hours(state, reminder, bad); !error.isEmpty())
+    if (QString error = Apply_Hours(state, reminder, bad); !error.isEmpty())
         return error;
     reminder.rs_Category = Category_FromText(state.Category);
     reminder.rs_Icon = Icon_OfCategory(reminder.rs_Category);

@@ -249,7 +249,7 @@ void Add_ToReminderTable(const WizardState& state) {
 }
 
 QString Title_FromMessage(const QString& message) {
-    const QString line = QString(message).replace("\r\n"_L1, ". "_L1).trimmed();
+    QString line = QString(message).replace("\r\n"_L1, ". "_L1).trimmed();
     if (line.size() <= LongestTitle)
         return line;
     // A character of two halves is not cut in the middle.

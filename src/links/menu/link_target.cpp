@@ -26,8 +26,7 @@ constexpr std::array<CommandRow, 7> CommandTable = {{
     {"help:about"_L1, LinkAction::About},
 }};
 
-// The command may connect others, or end the program.
-void Run(std::function<void()> command) {
+void Run(const std::function<void()>& command) {
     if (command)
         command();
 }
@@ -72,19 +71,21 @@ platform::ShowState Show_StateOf(std::uint8_t startSize) {
 }
 
 void Open_Link(const QString& url, std::uint8_t startSize) {
+    // A command may connect others, or end the program.
+    const LinkCommands commands = connectedCommands;
     switch (Action_Of(url)) {
     case LinkAction::Nothing:
         return;
     case LinkAction::Reminder_Edit:
-        return Run(connectedCommands.Reminder_Edit);
+        return Run(commands.Reminder_Edit);
     case LinkAction::Links_Edit:
-        return Run(connectedCommands.Links_Edit);
+        return Run(commands.Links_Edit);
     case LinkAction::Program_Setup:
-        return Run(connectedCommands.Program_Setup);
+        return Run(commands.Program_Setup);
     case LinkAction::Notes_Editor:
-        return Run(connectedCommands.Notes_Editor);
+        return Run(commands.Notes_Editor);
     case LinkAction::Setup_Wizard:
-        return Run(connectedCommands.Setup_Wizard);
+        return Run(commands.Setup_Wizard);
     case LinkAction::Help_Contents:
         return Show_Help();
     case LinkAction::About:
