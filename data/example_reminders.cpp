@@ -27,8 +27,8 @@ ReminderClass Example(std::int32_t id, const QString& title, const QString& text
     return reminder;
 }
 
-// Its exact date, for want of one, becomes the day of the first start. As an interval until midnight
-// it never counts as missed.
+// Its exact date, for want of one, becomes the day of the first start. As an interval until
+// midnight it never counts as missed.
 ReminderClass Greeting() {
     ReminderClass reminder = Example(
         0, u"Welcome to Tockly"_s,
