@@ -4,12 +4,20 @@
 #include "controls/metrics.h"
 #include "controls/program_end.h"
 #include "controls/unload_queue.h"
+#include "platform/desktop.h"
 #include "platform/window.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
+
+#include <algorithm>
+
+namespace {
+constexpr int TitleBarRoom = 12; // half of what a window manager adds above
+constexpr int ToolbarRoom = 24;  // the toolbar usually stands at the top
+} // namespace
 
 Form::Form(QWidget* owner, Qt::WindowFlags kind) : QWidget(owner, kind) {
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -49,7 +57,17 @@ QLabel* Form::Add_Label(const QString& text, int left, int top, int width, QWidg
     return label;
 }
 
+// Window managers that look for free room put a window half off the screen for it.
+void Form::Centre_OnScreen() {
+    const platform::Size screen = platform::Desktop::Get().Screen_Size();
+    const int room = screen.height - height();
+    move(std::max((screen.width - width()) / 2, 0),
+         std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
+}
+
 void Form::Present() {
+    if (!isVisible() && isWindow() && !testAttribute(Qt::WA_Moved))
+        Centre_OnScreen();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();

@@ -29,7 +29,8 @@ public:
     QLabel* Add_Label(const QString& text, int left, int top, int width = 0,
                       QWidget* parent = nullptr);
     void Set_BackColor(ColorValue color);
-    // Shows the form, raises it and gives it the focus.
+    // Shows the form, raises it and gives it the focus; at the centre of the screen, unless it was
+    // placed before.
     void Present();
 
 Q_SIGNALS:
@@ -47,6 +48,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void Centre_OnScreen();
+
     bool unloading = false;
     bool asking = false;
 };

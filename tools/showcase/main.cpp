@@ -1,7 +1,15 @@
-// Shows the program's own controls in all their states, to be looked at.
+// Shows the program's own controls in all their states, to be looked at, and quick add, which no
+// button of the program opens.
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
+#include "core/categories.h"
+#include "core/date_text.h"
+#include "core/reminder_store.h"
+#include "delivery/deliver.h"
+#include "editors/wizard/frm_quick_add_reminder.h"
+#include "platform/paths.h"
 #include "platform/system.h"
 
 #include <QApplication>
@@ -78,7 +86,16 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     platform::Provide_Base_Services();
     platform::Provide_Window_Services();
+    Init_TimeRoutines();
+    Init_DateText();
+    Init_Reminders();
+    Init_Categories();
+    Init_MessageWinRoutines();
+    Load_Tooltips(platform::Paths::Get().Shipped_File(u"tooltips.txt"_s));
     Showcase window;
     window.show();
-    return QApplication::exec();
+    Show_QuickAdd();
+    const int result = QApplication::exec();
+    Unload_QuickAdd();
+    return result;
 }

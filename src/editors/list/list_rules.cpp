@@ -116,7 +116,9 @@ bool Is_SampleText(const QString& text) {
 QString Text_ForBox(const QString& recordText) {
     QString text = recordText;
     text.replace("\r\n"_L1, "\n"_L1);
-    return text.replace(u'\r', u'\n').replace(QChar::ParagraphSeparator, u'\n');
+    return text.replace(u'\r', u'\n')
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 
 QString Text_ForRecord(const QString& boxText, const QString& recordText) {

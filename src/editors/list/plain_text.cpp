@@ -27,7 +27,8 @@ private:
 
 QString Plain_Text(const QPlainTextEdit& box) {
     QString text = box.document()->toRawText();
-    return text.replace(QChar::ParagraphSeparator, u'\n');
+    // Shift and Enter make a line end of another kind, which is none to anybody else.
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
 void Limit_ToStoredText(QLineEdit* field, const QString& before) {
