@@ -26,7 +26,8 @@ protected:
     ~NotesEditor() override {
         Set_Program_Ending(false);
         Unload_NotesEditor();
-        Global_PendingUnloads.clear();
+        Unload_PendingForms();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     void Open() {
         Show_NotesEditor();
