@@ -18,14 +18,8 @@ protected:
         Keys({u"ctrl+a"_s});
         Type(text);
     }
-    // A search fails as a whole when a window goes away under it.
-    QString The_Strip() const {
-        QString window;
-        EXPECT_TRUE(Wait_Until([&] { return !(window = Strip_Window()).isEmpty(); }));
-        return window;
-    }
     QString Open(const QString& title, int button) const {
-        Click(The_Strip(), button, 10);
+        Click(Strip_Window(), button, 10);
         return Wait_For_Focus(title);
     }
     // The window once it has the keyboard.
@@ -43,10 +37,7 @@ protected:
     // A popup menu, beside the program's other windows without such a title.
     bool A_Menu_Is_Open(int before) const { return Windows_OfProgram() > before; }
     int Windows_OfProgram() const {
-        return static_cast<int>(
-            desktop.XDo({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"^tockly$"_s})
-                .split(u'\n', Qt::SkipEmptyParts)
-                .size());
+        return static_cast<int>(desktop.Search({u"--class"_s, u"^tockly$"_s}).size());
     }
     // Enter answers the box.
     void Agree(const QString& title) const {

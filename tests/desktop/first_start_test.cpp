@@ -40,7 +40,7 @@ protected:
     QString Choose_OwnLink(int y, const QString& title) const {
         // The menu before has faded out.
         EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 1; }));
-        Click(The_Strip(), 50, 10);
+        Click(Strip_Window(), 50, 10);
         EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 2; }));
         desktop.XDo(QStringList{u"mousemove"_s} + At(TopRight + 40, 80) +
                     QStringList{u"mousemove"_s} + At(TopRight + 40, 82) +
@@ -74,7 +74,7 @@ TEST_F(FirstStart, Everything_Leads_Somewhere_And_Is_Found_Again) {
         Open(u"Notes"_s, 160);
         Leave(u"Notes"_s);
         Open(u"Textbox"_s, 182);
-        Click(The_Strip(), 182, 10);
+        Click(Strip_Window(), 182, 10);
         Wait_Until_Gone(u"Textbox"_s);
         const std::pair<int, QString> links[] = {
             {108, u"Help"_s},

@@ -22,11 +22,8 @@ QByteArray Links_File(const QList<QByteArray>& urls) {
 class Links : public Driven {
 protected:
     QStringList Menus() const {
-        const QStringList all =
-            desktop.XDo({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"^tockly$"_s})
-                .split(u'\n', Qt::SkipEmptyParts);
         QStringList menus;
-        for (const QString& window : all)
+        for (const QString& window : desktop.Search({u"--class"_s, u"^tockly$"_s}))
             if (window != strip)
                 menus.append(window);
         return menus;
@@ -68,7 +65,7 @@ TEST_F(Links, Five_Levels_Open_Close_Behind_The_Mouse_And_Keep_The_Toolbar_From_
     Tockly tockly(desktop, Home());
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    strip = The_Strip();
+    strip = Strip_Window();
     Click(strip, 50, 10);
     QRect level = Wait_For_Another({});
     EXPECT_EQ(level.topLeft(), QPoint(345, 20));
@@ -107,7 +104,7 @@ TEST_F(Links, A_Target_Is_Opened_As_One_Also_By_Keyboard_And_Never_Through_A_She
     second.Start();
     EXPECT_EQ(second.Wait_For_End(), 0);
     Wait_For_Focus(Strip);
-    strip = The_Strip();
+    strip = Strip_Window();
     Keys({u"space"_s});
     Wait_For_Another({});
     EXPECT_TRUE(Wait_Until([&] { return desktop.XDo({u"getactivewindow"_s}) != strip; }));

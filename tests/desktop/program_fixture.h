@@ -35,9 +35,7 @@ protected:
     }
     // A popup menu is a window of the program without a title that the tools read.
     bool Menu_Is_Open() const {
-        const QString all =
-            desktop.XDo({u"search"_s, u"--onlyvisible"_s, u"--class"_s, u"^tockly$"_s});
-        return all.split(u'\n', Qt::SkipEmptyParts).size() > Count(Strip);
+        return desktop.Search({u"--class"_s, u"^tockly$"_s}).size() > Count(Strip);
     }
     int Count(const QString& title) const {
         return static_cast<int>(desktop.Visible_Windows(title).size());

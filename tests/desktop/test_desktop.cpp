@@ -96,8 +96,21 @@ QString TestDesktop::XDo(const QStringList& arguments) const {
 QStringList TestDesktop::Visible_Windows(const QString& title) const {
     // An escaped quote would be the end of the text to the tool.
     const QString pattern = QRegularExpression::escape(title).replace(u"\\'"_s, u"'"_s);
-    return XDo({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u'^' + pattern + u'$'})
-        .split(u'\n', Qt::SkipEmptyParts);
+    return Search({u"--name"_s, u'^' + pattern + u'$'});
+}
+
+QStringList TestDesktop::Search(const QStringList& by) const {
+    // It fails as a whole when a window goes away under it.
+    for (;;) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(u"xdotool"_s, QStringList{u"search"_s, u"--onlyvisible"_s} + by);
+        process.waitForFinished(20000);
+        if (!process.readAllStandardError().contains("BadWindow")) {
+            return QString::fromUtf8(process.readAllStandardOutput())
+                .split(u'\n', Qt::SkipEmptyParts);
+        }
+    }
 }
 
 bool TestDesktop::Wait_For_Window(const QString& title) const {

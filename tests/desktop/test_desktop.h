@@ -30,6 +30,8 @@ public:
 
     // Window numbers whose title is exactly this, as the window system lists them when mapped.
     QStringList Visible_Windows(const QString& title) const;
+    // Those that xdotool finds: {"--class", "^tockly$"}.
+    QStringList Search(const QStringList& by) const;
     bool Wait_For_Window(const QString& title) const;
     QRect Geometry(const QString& window) const;
     QString Property(const QString& window, const QString& name) const;
