@@ -153,13 +153,14 @@ void frmLinksEdit::Load_Global_LinksArray_To_List() {
     panel->Show_Row(edit.Selected_Row());
 }
 
-void frmLinksEdit::Store_Panel() {
-    const LinkRec* row = edit.Selected_Row();
-    if (row == nullptr)
-        return;
-    LinkRec changed = *row;
-    panel->Store_Row(changed);
-    if (edit.Store_Row(changed))
+LinkRec frmLinksEdit::Panel_Row() const {
+    LinkRec row = *edit.Selected_Row();
+    panel->Store_Row(row);
+    return row;
+}
+
+void frmLinksEdit::Store_Panel(LinkEdit::Step step) {
+    if (edit.Selected_Row() != nullptr && edit.Store_Row(Panel_Row(), step))
         list->Update_Row(edit.Selected());
 }
 
@@ -170,7 +171,7 @@ void frmLinksEdit::Row_Selected(int row) {
 }
 
 bool frmLinksEdit::Run(const std::function<bool()>& command) {
-    Store_Panel();
+    Store_Panel(LinkEdit::Step::OfNextCommand);
     const bool changed = command();
     if (changed)
         Load_Global_LinksArray_To_List();
@@ -207,7 +208,6 @@ void frmLinksEdit::wbButton6_Click() {
 }
 
 void frmLinksEdit::wbButton7_Click() {
-    Store_Panel();
     if (edit.Selected_Row() != nullptr && (!Is_Category(*edit.Selected_Row()) || Ask_Delete()))
         Run([this] { return edit.Delete(); });
 }
@@ -216,7 +216,7 @@ bool frmLinksEdit::Ask_Delete() {
     const LinkRec row = *edit.Selected_Row();
     const QPointer<frmLinksEdit> alive(this);
     return Ask(u"Are you sure you want to delete the category:\r\n"_s +
-               row.LinkName.left(ShownName) + u" ?"_s) &&
+               Panel_Row().LinkName.left(ShownName) + u" ?"_s) &&
            alive && Is_Here() && edit.Selected_Row() != nullptr && *edit.Selected_Row() == row;
 }
 
@@ -253,8 +253,11 @@ void frmLinksEdit::Browse() {
 
 void frmLinksEdit::Drop_File(const QString& path) {
     const QPointer<frmLinksEdit> alive(this);
+    // The window may have been closed since the file fell on it.
+    if (!Is_Here())
+        return;
     if (Ask(u"Add link to file ?\r\n"_s + path.left(ShownName)) && alive && Is_Here())
-        Add_Link(path, path.mid(path.lastIndexOf(u'/') + 1));
+        Add_Link(path, path.section(u'/', -1, -1, QString::SectionSkipEmpty));
 }
 
 bool frmLinksEdit::Query_Unload(UnloadMode mode) {

@@ -17,7 +17,7 @@ public:
     frmLinksEdit();
 
     // What stands in the panel goes to its row; no window is drawn for it.
-    void Store_Panel();
+    void Store_Panel(LinkEdit::Step step = LinkEdit::Step::OfItsOwn);
 
 protected:
     bool Query_Unload(UnloadMode mode) override;
@@ -27,6 +27,8 @@ private:
     void Build_List();
     void Build_Buttons();
     bool Is_Here() const;
+    // The selected row as the panel has it; one must be selected.
+    LinkRec Panel_Row() const;
 
     // Stores the panel, runs the command and, if it has changed something, shows the list anew.
     bool Run(const std::function<bool()>& command);

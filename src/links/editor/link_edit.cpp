@@ -3,6 +3,7 @@
 #include "links/store/links_data.h"
 
 #include <algorithm>
+#include <utility>
 
 LinkEdit::LinkEdit() {
     Global_LinkArray.resize(Link_Count(Global_LinkArray));
@@ -18,20 +19,27 @@ const LinkRec* LinkEdit::Selected_Row() const {
                                                : &Rows()[static_cast<std::size_t>(selected)];
 }
 
-bool LinkEdit::Store_Row(const LinkRec& row) {
+bool LinkEdit::Store_Row(const LinkRec& row, Step step) {
+    storedForCommand = false;
     if (Selected_Row() == nullptr || *Selected_Row() == row)
         return false;
-    return Do([&](LinkRows& rows) {
+    Do([&](LinkRows& rows) {
         rows[static_cast<std::size_t>(selected)] = row;
         return selected;
     });
+    storedForCommand = step == Step::OfNextCommand;
+    return true;
 }
 
 bool LinkEdit::Do(const std::function<int(LinkRows&)>& operation) {
     const LinkRows before = Global_LinkArray;
     const int row = operation(Global_LinkArray);
+    const bool stored = std::exchange(storedForCommand, false);
     if (row == NothingMoved)
         return false;
+    // Fifty steps back are fifty commands back, however much was typed between them.
+    if (stored)
+        undo.Drop_Last();
     undo.Take_Snapshot(before);
     dirty = true;
     Select(row);
@@ -78,6 +86,7 @@ bool LinkEdit::Delete() {
 }
 
 bool LinkEdit::Undo() {
+    storedForCommand = false;
     if (!undo.Undo(Global_LinkArray))
         return false;
     dirty = true;

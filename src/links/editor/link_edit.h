@@ -23,8 +23,11 @@ public:
     bool Is_Dirty() const { return dirty; }
     void Mark_Changed() { dirty = true; }
 
-    // The selected row as the property panel has it now. A step of its own for Undo.
-    bool Store_Row(const LinkRec& row);
+    // The selected row as the property panel has it now, as a step of its own for Undo or as part
+    // of the command that comes next: its Undo keeps what was typed. Should that command change
+    // nothing, it is a step of its own after all.
+    enum class Step { OfItsOwn, OfNextCommand };
+    bool Store_Row(const LinkRec& row, Step step = Step::OfItsOwn);
     // An empty title: the usual one.
     bool Add_Link(const QString& target, const QString& title = {});
     // Without a change: it would stand too deep.
@@ -49,4 +52,5 @@ private:
     UndoRing undo;
     int selected = -1;
     bool dirty = false;
+    bool storedForCommand = false; // the last snapshot is that of a row stored for the next one
 };

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 void UndoClass::SetArraySize(std::int32_t n) {
-    rows.assign(static_cast<std::size_t>(std::max(n, -1) + 1), {});
+    rows.assign(static_cast<std::size_t>(std::int64_t{std::max(n, -1)} + 1), {});
     cursor = 0;
 }
 
@@ -39,12 +39,17 @@ void UndoRing::Take_Snapshot(const std::vector<LinkRec>& rows) {
                              rows[row].StartSize);
 }
 
+void UndoRing::Drop_Last() {
+    if (!snapshots.empty())
+        snapshots.pop_back();
+}
+
 bool UndoRing::Undo(std::vector<LinkRec>& rows) {
     if (snapshots.empty())
         return false;
     UndoClass& snapshot = snapshots.back();
     snapshot.Rewind();
-    rows.assign(static_cast<std::size_t>(snapshot.Get_LinksArray_Size() + 1), {});
+    rows.assign(static_cast<std::size_t>(std::int64_t{snapshot.Get_LinksArray_Size()} + 1), {});
     for (LinkRec& row : rows)
         snapshot.GetLinkData(row.URL, row.LinkName, row.Description, row.StartSize);
     snapshots.pop_back();

@@ -29,6 +29,7 @@ public:
 
     // The oldest one makes room for the fifty-first.
     void Take_Snapshot(const std::vector<LinkRec>& rows);
+    void Drop_Last();
     // False: there is none left.
     bool Undo(std::vector<LinkRec>& rows);
     std::size_t Count() const { return snapshots.size(); }

@@ -2,6 +2,7 @@
 
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/painting.h"
 #include "controls/palette.h"
 #include "controls/svg_icon.h"
 #include "links/editor/link_operations.h"
@@ -81,6 +82,8 @@ public:
         const LinkRec& row = Global_LinkArray[static_cast<std::size_t>(index.row())];
         if (option.state.testFlag(QStyle::State_Selected))
             painter->fillRect(option.rect, palette::To_Color(SelectedBack));
+        if (option.state.testFlag(QStyle::State_HasFocus))
+            Draw_Frame(*painter, option.rect, palette::To_Color(palette::Focus_Mark));
         const int left = option.rect.left() + 4 + Row_Depth(row) * Indent;
         const int top = option.rect.top() + (RowHeight - PictureSize) / 2;
         Picture_Of(Icon_Of(row)).paint(painter, left, top, PictureSize, PictureSize);
@@ -274,6 +277,7 @@ void LinksList::paintEvent(QPaintEvent* event) {
     if (draggedRow < 0 || targetRow < 0)
         return;
     QPainter painter(viewport());
+    Paint_DraggedRow(painter);
     if (targetRow != draggedRow) {
         // SelShape: the place that the row would take.
         const QRect place = visualRect(rows->index(targetRow));
@@ -281,15 +285,17 @@ void LinksList::paintEvent(QPaintEvent* event) {
         painter.fillRect(place.left(), line, place.width(), 2,
                          palette::To_Color(palette::Focus_Mark));
     }
-    Paint_DraggedRow(painter);
 }
 
 void LinksList::Paint_DraggedRow(QPainter& painter) {
     QStyleOptionViewItem look;
     initViewItemOption(&look);
     look.rect = QRect(0, mouse.y() - RowHeight / 2, viewport()->width(), RowHeight);
+    painter.save();
     painter.setOpacity(DraggedOpacity);
+    painter.fillRect(look.rect, palette::To_Color(palette::White));
     itemDelegate()->paint(&painter, look, rows->index(draggedRow));
+    painter.restore();
 }
 
 // One file; more at once are no link.

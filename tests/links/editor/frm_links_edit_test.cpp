@@ -120,6 +120,10 @@ TEST_F(LinksEditor, The_properties_go_to_their_row_only_where_somebody_has_chang
     Type(u"Title"_s, u"on its way"_s);
     Store_OpenLinksPanel();
     EXPECT_EQ(Row(0).LinkName, u"on its way"_s);
+    Type(u"Title"_s, u"kept"_s);
+    Click(u"Move Down"_s);
+    Click(u"Undo"_s); // the move, not what was typed before it
+    EXPECT_EQ(Row(0).LinkName, u"kept"_s);
     Click(u"Undo"_s);
     Click(u"Undo"_s);
     Click(u"Undo"_s);
@@ -235,6 +239,12 @@ TEST_F(LinksEditor, The_end_of_the_program_takes_the_list_as_it_stands) {
     form->close();
     EXPECT_NE(changed, Start);
     EXPECT_EQ(Rows(), changed);
+    Set_Program_Ending(false);
+    Open();
+    Choose(0);
+    Type(u"Title"_s, u"in its field"_s);
+    EXPECT_TRUE(form->Unload(UnloadMode::Ending)); // asks nothing
+    EXPECT_EQ(Rows(), u"0http://a=in its field"_s + changed.mid(11));
     EXPECT_EQ(trees, 0);
 }
 

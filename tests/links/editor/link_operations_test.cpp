@@ -142,6 +142,7 @@ enum Kind { Add, AddCategory, Store, Up, Down, Left, Right, Delete, Undo, KindCo
 struct Step {
     int Row = 0; // selected before it
     Kind Command = Add;
+    bool Typed = false; // in the panel, just before the command
 };
 const QString Targets[] = {u"http://"_s, u"-"_s, {}, u"1st.html"_s, u"3.exe"_s};
 
@@ -156,9 +157,15 @@ std::string Fault_Of(const std::vector<Step>& steps) {
     std::vector<LinkRows> history;
     int named = Count(plain);
     for (const Step& step : steps) {
-        const LinkRows before = plain;
+        const LinkRows untyped = plain;
         int row = step.Row % (Count(plain) + 1) - 1;
         edit.Select(row);
+        const bool typed = step.Typed && row >= 0 && step.Command != Store && step.Command != Undo;
+        if (typed) {
+            At(plain, row).StartSize ^= 1U;
+            edit.Store_Row(At(plain, row), LinkEdit::Step::OfNextCommand);
+        }
+        const LinkRows before = plain;
         const QString name = row < 0 ? QString() : At(plain, row).LinkName;
         const QString& target = Targets[step.Row % 5];
         bool changed = false;
@@ -201,8 +208,8 @@ std::string Fault_Of(const std::vector<Step>& steps) {
             (plain.size() != before.size() ||
              (row >= 0 && At(plain, edit.Selected()).LinkName != name)))
             return "a row is lost, or another one selected";
-        if (step.Command != Undo && changed)
-            history.push_back(before);
+        if (step.Command != Undo && (changed || typed))
+            history.push_back(changed ? before : untyped);
         if (history.size() > 50)
             history.erase(history.begin());
         Load_Global_LinksArray();
@@ -230,7 +237,8 @@ std::string Shrunk(std::vector<Step> steps) {
     std::ostringstream text;
     text << Fault_Of(steps) << " after";
     for (const Step& step : steps)
-        text << "\n  selecting " << step.Row << ", " << names[step.Command];
+        text << "\n  selecting " << step.Row << (step.Typed ? ", typing, " : ", ")
+             << names[step.Command];
     return text.str();
 }
 
@@ -240,7 +248,8 @@ TEST(LinkOperations, Any_commands_do_what_a_second_reading_of_their_rules_does) 
     for (int round = 0; round < 3000; ++round) {
         std::vector<Step> steps(round % 40 == 0 ? 130 : 15);
         for (Step& step : steps)
-            step = {static_cast<int>(random() % 1000), static_cast<Kind>(random() % KindCount)};
+            step = {static_cast<int>(random() % 1000), static_cast<Kind>(random() % KindCount),
+                    random() % 4 == 0};
         ASSERT_EQ(Fault_Of(steps), "") << Shrunk(steps);
     }
 }
