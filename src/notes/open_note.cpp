@@ -42,10 +42,6 @@ void Edit_NoteText(int index, const QString& text) {
     Edits_Of(index).Text = text;
 }
 
-int Open_Note() {
-    return edits.Index;
-}
-
 bool Store_OpenNote() {
     const OpenEdits open = std::exchange(edits, OpenEdits());
     if (!Is_Note(open.Index))

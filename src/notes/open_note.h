@@ -11,8 +11,6 @@ void Edit_NoteText(int index, const QString& text);
 // Stores the open edits where they differ from the note. For every button and menu, at the loss of
 // the focus and at the end of the program. False: nothing differed.
 bool Store_OpenNote();
-// Whether anything waits to be stored; -1: no note.
-int Open_Note();
 
 // A note's text as its box shows it: lines end with "\n".
 QString Box_Text(const QString& stored);
