@@ -1,6 +1,7 @@
 // The controls of the reminder window, and how it shows a reminder.
 #include "controls/metrics.h"
 #include "controls/painting.h"
+#include "controls/text_fields.h"
 #include "core/reminder_store.h"
 #include "delivery/action_icons.h"
 #include "delivery/important_rwin.h"
@@ -8,7 +9,6 @@
 
 #include <QFontMetrics>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextDocument>
 
@@ -31,9 +31,9 @@ QString Spoken_Name(const FunctionEntry& entry) {
 }
 
 // The margins stand beside the text alone: above and below it every pixel counts as a line.
-class TextBox : public QPlainTextEdit {
+class TextBox : public MemoField {
 public:
-    explicit TextBox(QWidget* parent) : QPlainTextEdit(parent) {
+    explicit TextBox(QWidget* parent) : MemoField(parent) {
         document()->setDocumentMargin(0);
         setViewportMargins(rwin::TextMargin, 0, rwin::TextMargin, 0);
         setBackgroundRole(QPalette::Base);

@@ -96,7 +96,6 @@ NoteCard* CardColumn::Make_Card() {
     auto* card = new NoteCard(view);
     connect(card, &NoteCard::Selected, this, [this, card] { Select_Note(card->Note()); });
     connect(card, &NoteCard::Left, this, &CardColumn::Left);
-    connect(card, &NoteCard::Refused, this, &CardColumn::Refused);
     connect(card, &NoteCard::Height_Changed, this, &CardColumn::Lay_Out);
     connect(card, &NoteCard::Delete_Asked, this,
             [this, card] { Q_EMIT Delete_Asked(card->Note()); });

@@ -32,7 +32,6 @@ public:
 Q_SIGNALS:
     void Selection_Changed();
     void Left(); // a box has lost the focus
-    void Refused();
     void Delete_Asked(int note);
     void Move_Asked(int note, const QPoint& where);
     void Tab_Out(bool forward); // the Tab key leaves the column

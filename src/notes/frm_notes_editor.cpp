@@ -134,11 +134,6 @@ void frmNotesEditor::Connect_Controls() {
         if (!Program_Is_Ending())
             Store_Edits();
     });
-    connect(column, &CardColumn::Refused, this, [this] {
-        if (!isRefusing)
-            QMetaObject::invokeMethod(this, &frmNotesEditor::Refuse_Text, Qt::QueuedConnection);
-        isRefusing = true;
-    });
     connect(column, &CardColumn::Delete_Asked, this, &frmNotesEditor::Delete_Asked);
     connect(column, &CardColumn::Move_Asked, this, &frmNotesEditor::Mnu_MoveToCategory);
     connect(column, &CardColumn::Tab_Out, this, &frmNotesEditor::Leave_Column);

@@ -42,7 +42,6 @@ private:
     void Delete_Asked(int note);
     void Mnu_MoveToCategory(int note, const QPoint& where);
     void Rebuild_Cards();
-    void Refuse_Text();
     void Leave_Column(bool forward);
 
     void Show_Notes(int category);
@@ -50,7 +49,6 @@ private:
     void Show_Status();
 
     int selectedCategory = NoCategory;
-    bool isRefusing = false; // the box that says so is on its way, or on view
     CategoryList* list = nullptr;
     CardColumn* column = nullptr;
     QLabel* Label4 = nullptr;     // "Last Modified:"

@@ -2,20 +2,14 @@
 
 #include "controls/metrics.h"
 #include "notes/open_note.h"
-#include "platform/record_text.h"
 
 #include <QFontMetrics>
-#include <QKeyEvent>
-#include <QMimeData>
 #include <QPlainTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QValidator>
+#include <QWheelEvent>
 
 #include <algorithm>
-#include <functional>
-#include <limits>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,32 +18,15 @@ namespace {
 constexpr int TextMargin = 3;           // around the text of a box
 constexpr qsizetype GuessedText = 4000; // of a longer text the rest counts by its length
 
-class TitleLimit : public QValidator {
-public:
-    TitleLimit(QObject* parent, std::function<void()> onRefusal)
-        : QValidator(parent), refused(std::move(onRefusal)) {}
-    State validate(QString& text, int&) const override {
-        if (Fits_RecString(text))
-            return Acceptable;
-        refused();
-        return Invalid;
-    }
-
-private:
-    std::function<void()> refused;
-};
-
 } // namespace
 
 NoteTitleBox::NoteTitleBox(QWidget* parent) : QLineEdit(parent) {
     setFont(Small_Font());
     setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(u"Title"_s);
-    // The limit is in bytes; one in characters would cut what is pasted.
     setFrame(false);
     setTextMargins(1, 0, 1, 0); // together with the toolkit's own: as the text below
-    setMaxLength(std::numeric_limits<int>::max());
-    setValidator(new TitleLimit(this, [this] { Q_EMIT Refused(); }));
+    Limit_ToStoredText(this);
 }
 
 void NoteTitleBox::focusInEvent(QFocusEvent* event) {
@@ -62,7 +39,7 @@ void NoteTitleBox::focusOutEvent(QFocusEvent* event) {
     Q_EMIT Left();
 }
 
-NoteTextBox::NoteTextBox(QWidget* parent) : QPlainTextEdit(parent) {
+NoteTextBox::NoteTextBox(QWidget* parent) : MemoField(parent) {
     setFont(Small_Font());
     document()->setDefaultFont(Small_Font());
     document()->setDocumentMargin(TextMargin);
@@ -73,17 +50,13 @@ NoteTextBox::NoteTextBox(QWidget* parent) : QPlainTextEdit(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAccessibleName(u"Text"_s);
+    Set_Limit(Fits_Note);
     connect(this, &QPlainTextEdit::textChanged, this, &NoteTextBox::Edited);
 }
 
 void NoteTextBox::Show_Text(const QString& text) {
     const QSignalBlocker silent(this);
     setPlainText(text);
-}
-
-// The plain text of the toolkit would turn fixed blanks into common ones.
-QString NoteTextBox::Text() const {
-    return Box_Text(document()->toRawText());
 }
 
 int NoteTextBox::Needed_Height() const {
@@ -113,50 +86,17 @@ int NoteTextBox::Guessed_Height(const QString& text, int width) {
     return static_cast<int>(lines) * metrics.lineSpacing() + 2 * TextMargin;
 }
 
-bool NoteTextBox::Takes(const QString& inserted) {
-    if (inserted.isEmpty())
-        return true;
-    const QTextCursor cursor = textCursor();
-    QString text = Text();
-    text.replace(cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart(),
-                 Box_Text(inserted));
-    if (Fits_Note(text))
-        return true;
-    Q_EMIT Refused();
-    return false;
-}
-
-// Pasted, or dropped.
-void NoteTextBox::insertFromMimeData(const QMimeData* source) {
-    if (Takes(source->text()))
-        QPlainTextEdit::insertFromMimeData(source);
-}
-
-void NoteTextBox::keyPressEvent(QKeyEvent* event) {
-    const bool isTyped = !event->text().isEmpty() &&
-                         (event->text().front().isPrint() || event->text().front() == u'\r');
-    if (isTyped && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
-        !Takes(event->text()))
-        return;
-    QPlainTextEdit::keyPressEvent(event);
-}
-
-void NoteTextBox::inputMethodEvent(QInputMethodEvent* event) {
-    if (Takes(event->commitString()))
-        QPlainTextEdit::inputMethodEvent(event);
-}
-
 // The column scrolls, not the box.
 void NoteTextBox::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
 void NoteTextBox::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
+    MemoField::focusInEvent(event);
     Q_EMIT Focused();
 }
 
 void NoteTextBox::focusOutEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusOutEvent(event);
+    MemoField::focusOutEvent(event);
     Q_EMIT Left();
 }

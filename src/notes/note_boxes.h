@@ -2,8 +2,9 @@
 // Neither takes more than the file can hold: what would be too much is refused whole.
 #pragma once
 
+#include "controls/text_fields.h"
+
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 class NoteTitleBox : public QLineEdit {
     Q_OBJECT
@@ -11,8 +12,6 @@ public:
     explicit NoteTitleBox(QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    // The text would have become too long, and stays as it was.
-    void Refused();
     void Focused();
     void Left();
 
@@ -21,15 +20,13 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 };
 
-class NoteTextBox : public QPlainTextEdit {
+class NoteTextBox : public MemoField {
     Q_OBJECT
 public:
     explicit NoteTextBox(QWidget* parent = nullptr);
 
     // By the program: tells nobody.
     void Show_Text(const QString& text);
-    // Lines end with "\n".
-    QString Text() const;
     // How high the box has to be at its present width, pixels.
     int Needed_Height() const;
     // The same for a text that no box shows, roughly: it is not laid out.
@@ -37,18 +34,11 @@ public:
 
 Q_SIGNALS:
     void Edited(); // by the user
-    void Refused();
     void Focused();
     void Left();
 
 protected:
-    void insertFromMimeData(const QMimeData* source) override;
-    void keyPressEvent(QKeyEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-
-private:
-    bool Takes(const QString& inserted);
 };

@@ -50,8 +50,6 @@ NoteCard::NoteCard(QWidget* parent) : QWidget(parent) {
     connect(Text2, &NoteTextBox::Focused, this, &NoteCard::Text_Focused);
     connect(Text1, &NoteTitleBox::Left, this, &NoteCard::Left);
     connect(Text2, &NoteTextBox::Left, this, &NoteCard::Left);
-    connect(Text1, &NoteTitleBox::Refused, this, &NoteCard::Refused);
-    connect(Text2, &NoteTextBox::Refused, this, &NoteCard::Refused);
     connect(Text2, &QPlainTextEdit::cursorPositionChanged, this, [this] {
         if (Text2->hasFocus())
             Q_EMIT Caret_Moved(Text2->cursorRect().translated(Text2->pos()));

@@ -39,7 +39,6 @@ Q_SIGNALS:
     void Left();                          // a box has lost the focus
     void Height_Changed();                // its text has grown or shrunk
     void Caret_Moved(const QRect& caret); // pixels of the card
-    void Refused();
     void Delete_Asked();
     void Move_Asked(const QPoint& where); // on the screen
 

@@ -199,18 +199,3 @@ void frmNotesEditor::Mnu_MoveToCategory(int note, const QPoint& where) {
     Move_Note(note, picked);
     Select_Category(selectedCategory);
 }
-
-// A key that is held down asks for one box only.
-void frmNotesEditor::Refuse_Text() {
-    const Still_There still(this);
-    if (!still.Holds())
-        return;
-    platform::Dialogs::Get().Message(
-        u"This is too much text for a note.\r\n"
-        "A title and a text can have up to 65,535 characters each, and fewer when they hold "
-        "letters of other alphabets.\r\n"
-        "The note stays as it was."_s,
-        platform::BoxStyle::Exclamation);
-    if (still.Holds())
-        isRefusing = false;
-}

@@ -46,7 +46,7 @@ void Save_Place(platform::Point place) {
 
 } // namespace
 
-TextboxText::TextboxText(QWidget* parent) : QPlainTextEdit(parent) {
+TextboxText::TextboxText(QWidget* parent) : MemoField(parent) {
     setFont(Small_Font());
     setFrameShape(QFrame::NoFrame);
     document()->setDocumentMargin(0);
@@ -58,7 +58,7 @@ TextboxText::TextboxText(QWidget* parent) : QPlainTextEdit(parent) {
     setAccessibleName(u"Textbox"_s);
     setPlainText(u"This textbox will stay on top of other windows\n"
                  "Click to change the text\n"_s);
-    connect(this, &QPlainTextEdit::textChanged, this, &TextboxText::Check_ScrollBar);
+    connect(this, &MemoField::textChanged, this, &TextboxText::Check_ScrollBar);
 }
 
 // As far as it matters: a long text is not counted to its end.
@@ -80,7 +80,7 @@ void TextboxText::Check_ScrollBar() {
 }
 
 void TextboxText::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
+    MemoField::focusInEvent(event);
     if (LoadedTextBox != 0)
         return;
     LoadedTextBox = 1;
@@ -94,7 +94,7 @@ void TextboxText::focusInEvent(QFocusEvent* event) {
 }
 
 void TextboxText::focusOutEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusOutEvent(event);
+    MemoField::focusOutEvent(event);
     keepsSelection = false;
 }
 
@@ -102,7 +102,7 @@ void TextboxText::mousePressEvent(QMouseEvent* event) {
     const bool keeps = keepsSelection && textCursor().hasSelection();
     keepsSelection = false;
     if (!keeps)
-        QPlainTextEdit::mousePressEvent(event);
+        MemoField::mousePressEvent(event);
 }
 
 frmTextbox::frmTextbox() : Form(nullptr, Qt::Tool) {

@@ -3,15 +3,14 @@
 #pragma once
 
 #include "controls/form.h"
+#include "controls/text_fields.h"
 #include "settings/global_settings.h"
-
-#include <QPlainTextEdit>
 
 #include <optional>
 
 // Selects the words that it comes with when it gets the focus for the first time, so that the first
 // key press replaces them.
-class TextboxText : public QPlainTextEdit {
+class TextboxText : public MemoField {
     Q_OBJECT
 public:
     explicit TextboxText(QWidget* parent);

@@ -1,10 +1,10 @@
 #include "editors/list/card_list.h"
 
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "editors/list/card_list_accessible.h"
 #include "editors/list/click_label.h"
 #include "editors/list/list_rules.h"
-#include "editors/list/plain_text.h"
 
 #include <QScrollBar>
 

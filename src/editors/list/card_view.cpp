@@ -4,7 +4,7 @@
 #include "controls/painting.h"
 #include "controls/palette.h"
 #include "controls/reminder_icons.h"
-#include "editors/list/plain_text.h"
+#include "controls/text_fields.h"
 
 #include <QAccessible>
 #include <QFontMetrics>

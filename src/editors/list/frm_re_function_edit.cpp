@@ -2,11 +2,11 @@
 
 #include "controls/chk_box.h"
 #include "controls/program_end.h"
+#include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "editors/list/open_file.h"
 #include "editors/list/page_labels.h"
-#include "editors/list/plain_text.h"
 
 #include <QKeyEvent>
 #include <QLabel>

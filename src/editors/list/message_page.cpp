@@ -1,12 +1,12 @@
 #include "editors/list/message_page.h"
 
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "editors/list/function_rules.h"
 #include "editors/list/list_rules.h"
 #include "editors/list/page_labels.h"
-#include "editors/list/plain_text.h"
 
 #include <QButtonGroup>
 #include <QEvent>

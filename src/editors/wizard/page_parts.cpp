@@ -4,9 +4,9 @@
 #include "controls/form.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "controls/wb_button.h"
 #include "core/categories.h"
-#include "editors/list/plain_text.h"
 #include "platform/record_text.h"
 
 #include <QComboBox>

@@ -1,6 +1,7 @@
 #include "links/editor/property_panel.h"
 
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "links/editor/link_operations.h"
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QValidator>
 
 using namespace Qt::StringLiterals;
 
@@ -24,18 +24,6 @@ constexpr int TipTitle = 54;
 constexpr int TipPath = 55;
 constexpr int TipDescription = 56;
 constexpr int TipSize = 57;
-
-// A field takes no more than its place in the file holds.
-class StoredText : public QValidator {
-public:
-    StoredText(const QString& textBefore, QObject* owner) : QValidator(owner), before(textBefore) {}
-    State validate(QString& text, int&) const override {
-        return Fits_RecString(before + text) ? Acceptable : Invalid;
-    }
-
-private:
-    QString before;
-};
 
 // A byte of a file may say anything.
 std::size_t Shown_Size(const LinkRec& row) {
@@ -81,8 +69,7 @@ QLineEdit* PropertyPanel::Add_Field(const QString& label, int top, int width, in
     field->setFont(Small_Font());
     field->setGeometry(0, top + FieldBelow, width, FieldHeight);
     field->setAccessibleName(label.chopped(1));
-    field->setMaxLength(static_cast<int>(MaxRecStringBytes));
-    field->setValidator(new StoredText(before == Before::Depth ? u"0"_s : QString(), field));
+    Limit_ToStoredText(field, before == Before::Depth ? u"0"_s : QString());
     connect(field, &QLineEdit::returnPressed, this, &PropertyPanel::Entered);
     return field;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "accessories/help/help.h"
+#include "controls/text_fields.h"
 #include "core/categories.h"
 #include "core/date_text.h"
 #include "delivery/window_fixture.h"
@@ -10,7 +11,6 @@
 #include "editors/list/frm_reminder_edit.h"
 #include "editors/list/list_rules.h"
 #include "editors/list/misc_page.h"
-#include "editors/list/plain_text.h"
 #include "editors/list/reminder_edit.h"
 #include "editors/list/sound_page.h"
 #include "support/fake_files.h"
