@@ -61,6 +61,14 @@ void CategoryList::contextMenuEvent(QContextMenuEvent* event) {
     Q_EMIT Menu_Asked(row(item), byKey ? below : event->globalPos());
 }
 
+// The toolkit makes the first row current with the focus; a list without a selection stays so.
+void CategoryList::focusInEvent(QFocusEvent* event) {
+    const int selected = currentRow();
+    const QSignalBlocker silent(this);
+    QListWidget::focusInEvent(event);
+    setCurrentRow(selected);
+}
+
 void CategoryList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F2 && currentRow() != -1)
         Q_EMIT Rename_Asked(currentRow());

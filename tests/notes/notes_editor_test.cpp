@@ -180,6 +180,9 @@ TEST_F(NotesEditor, Categories_are_added_renamed_and_deleted) {
     QContextMenuEvent asked(QContextMenuEvent::Mouse, first, list->viewport()->mapToGlobal(first));
     QApplication::sendEvent(list->viewport(), &asked);
     EXPECT_EQ(Rows().left(25), u"Other (1), New Category ("_s);
+    column->setFocus();
+    list->setFocus(); // as the window that comes back under a box that has gone
+    EXPECT_EQ(list->currentRow(), -1);
     EXPECT_EQ(form->Selected_Category(), NoCategory);
     EXPECT_EQ(Note(2).Category, 0);
     EXPECT_EQ(Used_Notes(), 1);
