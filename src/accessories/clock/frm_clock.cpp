@@ -257,6 +257,9 @@ void frmClock::Show_At(int left, int top) {
     const platform::Size screen = platform::Desktop::Get().Screen_Size();
     move(std::max(std::min(left, screen.width - width()), 0),
          std::max(std::min(top, screen.height - height()), 0));
+    // Asked for the id of a window that is not made yet, the toolkit makes all children of the
+    // owner native windows.
+    create();
     platform::Windows& windows = platform::Windows::Get();
     windows.Leave_TaskBar(winId());
     windows.Keep_Place(winId());

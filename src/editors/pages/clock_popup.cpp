@@ -6,6 +6,8 @@
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 
+#include <QKeyEvent>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -49,6 +51,7 @@ void ClockPopup::Show_Clock_For_Textbox(const QString& name, QLineEdit* box, int
                                         int fieldTop) {
     if (Is_On(name))
         return;
+    page.window()->installEventFilter(this);
     frmClock& form = The_Clock();
     form.hide();
     target = name;
@@ -66,6 +69,15 @@ void ClockPopup::Show_Clock_For_Textbox(const QString& name, QLineEdit* box, int
 void ClockPopup::Follow(const QLineEdit* box) {
     if (clock && !clock->Is_Unloading() && clock->wTextBox() == box)
         clock->wTextBox_Change();
+}
+
+bool ClockPopup::eventFilter(QObject* watched, QEvent* event) {
+    const bool isEscape = event->type() == QEvent::KeyPress &&
+                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (!isEscape || watched != page.window() || !clock || !clock->isVisible())
+        return QObject::eventFilter(watched, event);
+    Hide();
+    return true;
 }
 
 void ClockPopup::frmClockFocusTimer_Tick() {

@@ -30,6 +30,10 @@ public:
     void Hide();
     void Unload();
 
+protected:
+    // Escape puts the clock away before it closes the window.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     frmClock& The_Clock();
     void frmClockFocusTimer_Tick();

@@ -208,6 +208,10 @@ TEST_F(Pages, The_clock_follows_its_cell_and_the_cell_its_clock) {
     EXPECT_EQ(Clock_Time(), u"2030"_s);
     Type(u"At"_s, u"07:45"_s);
     EXPECT_EQ(Clock_Time(), u"0745"_s);
+    QTest::keyClick(Named<QLineEdit>(u"At"_s), Qt::Key_Escape);
+    EXPECT_EQ(Clock(), nullptr);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(hours->internalWinId(), 0U); // no native window of its own for the clock's sake
     EXPECT_EQ(Named<QLineEdit>(u"Row 1: until"_s)->text(), u"16:20"_s);
 }
 
