@@ -13,7 +13,11 @@ constexpr qsizetype YearDigits = 6;
 } // namespace
 
 bool Is_CalendarMonth(int month, int year) {
-    return month >= 1 && month <= 12 && year >= FirstCalendarYear && year <= LastCalendarYear;
+    return month >= 1 && month <= 12 && DateToDay(1, month, year) != NoDay;
+}
+
+bool Is_TakenYear(int year, int onView) {
+    return year == onView || (year >= FirstCalendarYear && year <= LastTypedYear);
 }
 
 int First_DayCell(int month, int year) {

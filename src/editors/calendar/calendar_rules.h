@@ -9,10 +9,12 @@
 constexpr int CalendarRows = 6;
 constexpr int CalendarColumns = 7; // Monday first
 constexpr int FirstCalendarYear = 2000;
-constexpr int LastCalendarYear = 2099;
+constexpr int LastTypedYear = 2099;
 
-// Month 1..12 of a year that the picker knows.
+// Month 1..12 of a year that has Days.
 bool Is_CalendarMonth(int month, int year);
+// Whether the box of years may go from the year on view to this one.
+bool Is_TakenYear(int year, int onView);
 // The cell of the month's first day, 0 = Monday .. 6 = Sunday.
 int First_DayCell(int month, int year);
 // Every year divisible by 4 has a 29 February.

@@ -109,7 +109,7 @@ void frmCalendar::Show_Date(int DayOfMonth, int Month, int Year) {
         return;
     }
     const Moment now = Read_Moment();
-    UpdateCalendar(now.Month, std::clamp(now.Year, FirstCalendarYear, LastCalendarYear));
+    UpdateCalendar(now.Month, std::clamp(now.Year, FirstCalendarYear, LastTypedYear));
 }
 
 void frmCalendar::Show_DateText(const QString& text) {
@@ -132,8 +132,9 @@ void frmCalendar::showEvent(QShowEvent* event) {
 }
 
 void frmCalendar::Combo_Changed() {
-    if (Combo1->currentIndex() >= 0)
-        UpdateCalendar(Combo1->currentIndex() + 1, Typed_Year(Combo2->currentText()));
+    const int year = Typed_Year(Combo2->currentText());
+    if (Combo1->currentIndex() >= 0 && Is_TakenYear(year, CurrentYear))
+        UpdateCalendar(Combo1->currentIndex() + 1, year);
 }
 
 void frmCalendar::wbButton1_Click() {

@@ -8,8 +8,6 @@ using namespace date_box;
 
 namespace {
 
-constexpr std::int32_t LastCalendarYear = 2099;
-
 void Clear_Boxes(DatePageState& state, int first, int last) {
     std::fill(state.Ticks.begin() + first, state.Ticks.begin() + last + 1, false);
 }
@@ -153,8 +151,7 @@ CalendarDate Calendar_Start(const DatePageState& state, DateField field, const M
                                     field == ExactField) == 0;
     if (read && date.year == 0)
         date.year = now.Year;
-    if (!read || date.year > LastCalendarYear ||
-        DateToDay(date.day, date.month, date.year) == NoDay)
+    if (!read || DateToDay(date.day, date.month, date.year) == NoDay)
         return {0, now.Month, now.Year};
     return date;
 }

@@ -70,6 +70,10 @@ TEST_F(CalendarTest, ShowsThePresentMonthAndTurnsToAnotherByItsBoxes) {
     EXPECT_EQ(Shown(), u"4:29"_s);
     calendar->UpdateCalendar(13, 2010);
     EXPECT_EQ(Shown(), u"4:29"_s);
+    calendar->Show_DateText(u"15/01/2100"_s); // only typing is limited
+    EXPECT_EQ(Shown(), u"4:31"_s);
+    QTest::keyClick(months, Qt::Key_Down);
+    EXPECT_EQ(Shown(), u"0:29"_s);
 }
 
 TEST_F(CalendarTest, HandsBackTheDayThatWasClickedAndGoesAway) {
