@@ -8,6 +8,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <vector>
@@ -32,6 +33,18 @@ QMessageBox::Icon Icon_Of(BoxStyle style) {
         break;
     }
     return QMessageBox::NoIcon;
+}
+
+// The toolkit's "*.*" asks for a dot. The list of files goes by a second pair of brackets, which is
+// not shown.
+QStringList Toolkit_Filters(const QString& filter) {
+    static const QRegularExpression patterns(u"\\(([^()]*)\\)$"_s);
+    QStringList filters = filter.split(u";;"_s, Qt::SkipEmptyParts);
+    for (QString& one : filters) {
+        const QString pattern = patterns.match(one).captured(1);
+        one += u" ("_s + (pattern == "*.*"_L1 ? u"*"_s : pattern) + u')';
+    }
+    return filters;
 }
 
 class ToolkitDialogs : public Dialogs {
@@ -75,15 +88,19 @@ public:
         if (isDismissed) {
             return std::nullopt;
         }
-        QFileDialog box(nullptr, title, folder, filter);
+        QFileDialog box(nullptr, title, folder);
+        box.setOption(QFileDialog::HideNameFilterDetails);
+        box.setNameFilters(Toolkit_Filters(filter));
         box.setAcceptMode(QFileDialog::AcceptOpen);
         box.setFileMode(QFileDialog::AnyFile); // the caller may complete a typed name
         if (!Run(box) || box.selectedFiles().isEmpty()) {
             return std::nullopt;
         }
-        const auto filters = box.nameFilters();
-        return ChosenFile{box.selectedFiles().constFirst(),
-                          std::max(0, static_cast<int>(filters.indexOf(box.selectedNameFilter())))};
+        // As it is shown, or whole: versions of the toolkit differ.
+        const QString selected = box.selectedNameFilter();
+        const auto index = std::max(filter.split(u";;"_s, Qt::SkipEmptyParts).indexOf(selected),
+                                    box.nameFilters().indexOf(selected));
+        return ChosenFile{box.selectedFiles().constFirst(), std::max(0, static_cast<int>(index))};
     }
 
     bool Holds_Timers() override { return holding > 0; }

@@ -4,10 +4,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
-#include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -94,7 +96,7 @@ TEST(Dialogs, a_line_is_typed_or_cancelled_and_holds_no_timers) {
     EXPECT_FALSE(dialogs->Open_File(u"Sound"_s, u"/"_s, u"Sounds (*.wav *.mp3)"_s));
     With_Next_Box([](QDialog& box) {
         box.findChild<QLineEdit*>()->setText(u"alarm"_s);
-        dynamic_cast<QFileDialog&>(box).selectNameFilter(u"WAV File (*.wav)"_s);
+        box.findChild<QComboBox*>(u"fileTypeCombo"_s)->setCurrentIndex(1);
         QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
     });
     const auto chosen =
@@ -102,6 +104,17 @@ TEST(Dialogs, a_line_is_typed_or_cancelled_and_holds_no_timers) {
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->Path, u"/tmp/alarm"_s);
     EXPECT_EQ(chosen->Filter_Index, 1);
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QFile(folder.filePath(u"without a dot"_s)).open(QIODevice::WriteOnly));
+    With_Next_Box([](QDialog& box) {
+        const auto* view = box.findChild<QListView*>(u"listView"_s);
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return view->model()->rowCount(view->rootIndex()) == 1; }));
+        EXPECT_EQ(box.findChild<QComboBox*>(u"fileTypeCombo"_s)->currentText(),
+                  u"All Files (*.*)"_s);
+        box.reject();
+    });
+    dialogs->Open_File({}, folder.path(), u"All Files (*.*)"_s);
 }
 
 TEST(Dialogs, the_end_of_the_session_cancels_every_open_box_and_all_later_ones) {
