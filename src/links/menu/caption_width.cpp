@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype MostLetters = 400; // wider than any row
+constexpr qsizetype MostLetters = 4000; // wider than any screen
 constexpr std::size_t Measured = 8;
 
 // Widths of single letters; the common ones are asked for once.

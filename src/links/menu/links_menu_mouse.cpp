@@ -191,8 +191,9 @@ QString LinksMenuV2::Tip_Of(int row) const {
     const QString& description = Item(row).Description;
     if (!description.isEmpty() && description != Caption(row))
         return description.left(LongestTip);
-    const bool isCut = fontMetrics().horizontalAdvance(Caption(row)) > WidestCaption;
-    return isCut ? Caption(row) : QString();
+    const int room = width() - MenuLeftMargin - MenuRightMargin;
+    const bool isCut = fontMetrics().horizontalAdvance(Caption(row)) > room;
+    return isCut ? Caption(row).left(LongestTip) : QString();
 }
 
 void LinksMenuV2::Show_Tip(const QHelpEvent& asked) {

@@ -69,9 +69,15 @@ void LinksMenuV2::LoadLinksData(const std::shared_ptr<LinksData>& links) {
     Take_Size();
 }
 
+QSize LinksMenuV2::Level_Size() const {
+    const int widest = platform::Desktop::Get().Screen_Size().width;
+    return {std::min(level->Layout.Width, widest), level->Layout.Height};
+}
+
 void LinksMenuV2::Take_Size() {
     const int lowest = platform::Desktop::Get().Screen_Size().height;
-    resize(level->Layout.Width, std::min(level->Layout.Height, lowest));
+    const QSize whole = Level_Size();
+    resize(whole.width(), std::min(whole.height(), lowest));
 }
 
 bool LinksMenuV2::Fades_Here() const {

@@ -34,8 +34,8 @@ public:
 
     // Fills the form, once.
     void LoadLinksData(const std::shared_ptr<LinksData>& links);
-    // Size of the whole level, pixels; the form itself is no higher than the screen.
-    QSize Level_Size() const { return {level->Layout.Width, level->Layout.Height}; }
+    // Size of the level, pixels: no wider than the screen. The form itself is no higher either.
+    QSize Level_Size() const;
 
     void ShowForm();
     // Hides the form and those it led to, without a fade.

@@ -30,9 +30,8 @@ MenuLayout Lay_OutMenu(std::span<const MenuRowKind> rows, int widestCaption, int
     }
     if (rows.empty())
         top += MenuRowPitch; // an empty level is an empty frame
-    layout.Width =
-        std::max(MenuLeftMargin + std::clamp(widestCaption, 0, WidestCaption) + MenuRightMargin,
-                 MenuLeftMargin + widestHeader + 2 * MenuEdge);
+    layout.Width = std::max(MenuLeftMargin + widestCaption + MenuRightMargin,
+                            MenuLeftMargin + widestHeader + 2 * MenuEdge);
     layout.Height = top + MenuEdge;
     return layout;
 }

@@ -12,8 +12,7 @@ enum class MenuRowKind { Category, Link, Separator };
 inline constexpr int MenuRowPitch = 24;
 inline constexpr int MenuLeftMargin = 12;
 inline constexpr int MenuRightMargin = 32;
-inline constexpr int MenuEdge = 2;        // the frame, and a pixel inside it
-inline constexpr int WidestCaption = 400; // a longer one is elided
+inline constexpr int MenuEdge = 2; // the frame, and a pixel inside it
 inline constexpr int NoMenuRow = -1000;
 inline constexpr int NoHeader = -1;
 

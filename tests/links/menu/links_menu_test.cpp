@@ -244,8 +244,10 @@ TEST_F(LinksMenu, Of_a_level_longer_than_the_screen_every_row_can_be_reached) {
     Global_LinkArray.clear();
     for (int i = 0; i < 2000; ++i)
         Add(u"0http://%1"_s.arg(i), u"Link %1"_s.arg(i));
+    Global_LinkArray.back().LinkName = QString(3000, u'W'); // nor is it wider than the screen
     Load_Global_LinksArray();
     LinksMenuV2* root = Open(MenuOpenedBy::Keyboard);
+    EXPECT_EQ(root->width(), 1280);
     EXPECT_EQ(root->Level_Size().height(), 2 + 24 * 2001 + 2);
     EXPECT_EQ(root->y(), 0);
     EXPECT_EQ(root->height(), 1024);
