@@ -5,6 +5,11 @@
 
 using namespace Qt::StringLiterals;
 
+std::uint64_t ObjectIdentity::Next() {
+    static std::uint64_t last = 0;
+    return ++last;
+}
+
 void ReminderClass::SetDefaultValues() {
     rs_Enabled = true;
     rs_REveryDay = true;

@@ -41,6 +41,20 @@ struct FunctionEntry {
     bool operator==(const FunctionEntry&) const = default;
 };
 
+// Tells objects apart for as long as the program runs: their memory is used again, and a pair of
+// ids can change. A copy is another object.
+class ObjectIdentity {
+public:
+    ObjectIdentity() = default;
+    ObjectIdentity(const ObjectIdentity&) {}
+    ObjectIdentity& operator=(const ObjectIdentity&) { return *this; }
+    std::uint64_t Value() const { return value; }
+
+private:
+    static std::uint64_t Next();
+    std::uint64_t value = Next();
+};
+
 class ReminderClass {
 public:
     static constexpr int FunctionCount = 4;
@@ -76,11 +90,20 @@ private:
     std::int32_t HourCount = 0;
     HourSlot FirstHour;
     Serial LastCheckDate = 0;
-    std::int32_t LastAtMinute = NoMinute; // shared by all setups that fire once
     // The slots behind the first; never fewer than setups, so that each has its marks.
     std::vector<HourSlot> MoreHours;
 
+    // A minute of setups that fire once, from its first fire on until the day ends. They stay when
+    // the list is edited.
+    enum class AtState : std::uint8_t { Fired, FiresAgain, Done };
+    struct AtMark {
+        std::int32_t Minute = 0;
+        AtState State = AtState::Fired;
+    };
+    std::vector<AtMark> AtMarks;
+
 public:
+    ObjectIdentity Identity;
     // Holds two units: the engine stores a Serial here, the list of missed reminders a Day.
     std::int32_t rs_LastExecutedDate = NeverExecuted;
     bool rs_PlaySound = false;
@@ -144,8 +167,6 @@ public:
     int LoadData_From_File(RecordReader& stream);
 
 private:
-    static constexpr std::int32_t NoMinute = -100;
-
     HourSlot& Hour_Slot(std::int32_t index);
     const HourSlot& Hour_Slot(std::int32_t index) const;
     void Check_HourIndex(std::int32_t index) const;
@@ -157,6 +178,8 @@ private:
     void Start_DayCycle(const Moment& now);
     void Start_NewDay(Serial today);
     bool Fire_HourSetup(HourSlot& slot, std::int32_t minute);
+    bool Fire_At(std::int32_t start, std::int32_t minute);
+    void Settle_AtMarks(std::size_t marksBefore, std::int32_t minute);
     static bool Fire_Interval(HourSlot& slot, std::int32_t minute);
     static std::int32_t Next_DueMinute(const HourSlot& slot, std::int32_t minute);
     MinuteCount Next_DueMinute(const Moment& now) const;

@@ -88,7 +88,7 @@ void ReminderClass::Start_NewDay(Serial today) {
         Hour_Slot(index).IntervalMark = 0;
         Hour_Slot(index).StartupDone = false;
     }
-    LastAtMinute = NoMinute;
+    AtMarks.clear();
     LastCheckDate = today;
 }
 
@@ -97,6 +97,36 @@ bool ReminderClass::Fire_Interval(HourSlot& slot, std::int32_t minute) {
         return false;
     slot.IntervalMark = minute + 1;
     return true;
+}
+
+bool ReminderClass::Fire_At(std::int32_t start, std::int32_t minute) {
+    if (minute < start || minute > start + LateMinutes)
+        return false;
+    const auto mark = std::find_if(AtMarks.begin(), AtMarks.end(),
+                                   [start](const AtMark& at) { return at.Minute == start; });
+    if (mark == AtMarks.end()) {
+        AtMarks.push_back({start, AtState::Fired});
+        return true;
+    }
+    if (mark->State != AtState::FiresAgain)
+        return false;
+    mark->State = AtState::Done;
+    return true;
+}
+
+// A minute that fires for the first time lets each other one whose five minutes are not over fire
+// once more at the next check, and no later. That is meant.
+void ReminderClass::Settle_AtMarks(std::size_t marksBefore, std::int32_t minute) {
+    const std::size_t firstFires = AtMarks.size() - marksBefore;
+    for (std::size_t index = 0; index < AtMarks.size(); ++index) {
+        AtMark& mark = AtMarks[index];
+        const bool isInside = minute >= mark.Minute && minute <= mark.Minute + LateMinutes;
+        const std::size_t others = firstFires - (index >= marksBefore ? 1 : 0);
+        if (mark.State == AtState::FiresAgain)
+            mark.State = AtState::Done;
+        else if (mark.State == AtState::Fired && isInside && others > 0)
+            mark.State = AtState::FiresAgain;
+    }
 }
 
 bool ReminderClass::Fire_HourSetup(HourSlot& slot, std::int32_t minute) {
@@ -109,14 +139,8 @@ bool ReminderClass::Fire_HourSetup(HourSlot& slot, std::int32_t minute) {
         slot.StartupDone = true;
         return first;
     }
-    if (every == 0) {
-        if (LastAtMinute == start || minute < start || minute > start + LateMinutes)
-            return false;
-        // One mark for all setups: with two of them closer than six minutes each fire clears the
-        // guard of the other. That is meant.
-        LastAtMinute = start;
-        return true;
-    }
+    if (every == 0)
+        return Fire_At(start, minute);
     if (start == AtStartUp && !slot.StartupDone) {
         slot.IntervalMark = minute - every + 1;
         slot.StartupDone = true;
@@ -153,8 +177,10 @@ bool ReminderClass::Engine_CheckTime(const Moment& now) {
     if (LastCheckDate != now.TodaySerial)
         Start_NewDay(now.TodaySerial);
     bool fired = false;
+    const std::size_t marksBefore = AtMarks.size();
     for (std::int32_t index = 0; index < HourCount; ++index)
         fired |= Fire_HourSetup(Hour_Slot(index), now.Minute);
+    Settle_AtMarks(marksBefore, now.Minute);
     if (fired)
         rs_LastExecutedDate = now.TodaySerial;
     return fired;

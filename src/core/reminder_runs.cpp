@@ -97,7 +97,7 @@ Day ReminderClass::GetPrevious_RunDate(const Moment& now) {
         return NoDay;
     }
     const Day result = Previous_RunDate(now);
-    return result < First_ActiveDay() ? NoDay : result;
+    return result < rs_ActivationDay ? NoDay : result;
 }
 
 Day ReminderClass::Previous_RunDate(const Moment& now) {

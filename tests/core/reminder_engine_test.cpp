@@ -151,12 +151,6 @@ TEST_F(ReminderEngine, EachFormOfHoursFiresInItsMinutes) {
         {"at midnight", {{-1, 0, 0, 0}}, 0, 10, 1, {0}},
         {"switched off", {{0, 600, 0, 0}, {1, 601, 0, 0}}, 0, 1439, 1, {}},
         {"two six minutes apart", {{-1, 600, 0, 0}, {-1, 606, 0, 0}}, 0, 1439, 1, {600, 606}},
-        {"two that clear each other's guard",
-         {{-1, 600, 0, 0}, {-1, 603, 0, 0}},
-         0,
-         1439,
-         1,
-         {600, 603, 604, 605}},
         {"every 90 minutes", {{-1, 480, 750, 90}}, 0, 1439, 1, {480, 570, 660, 750}},
         {"every 90, asked late", {{-1, 480, 780, 90}}, 500, 1439, 1, {500, 590, 680, 770}},
         {"every 60 minutes, asked each 25", {{-1, 0, 200, 60}}, 0, 300, 25, {0, 75, 150}},
@@ -179,6 +173,47 @@ TEST_F(ReminderEngine, EachFormOfHoursFiresInItsMinutes) {
                     fires.push_back(minute);
             }
             EXPECT_EQ(fires, form.fires) << form.name;
+        }
+    }
+}
+
+// Asked once a second, as the program asks.
+TEST_F(ReminderEngine, TimesLessThanSixMinutesApartFireOnceMoreEach) {
+    struct {
+        const char* name;
+        std::vector<std::int16_t> minutes;
+        int from; // the first check, in seconds of the hour from 10:00 on
+        std::vector<int> fires;
+        std::vector<std::pair<int, int>> jumps{}; // at this second the clock goes to that one
+    } cases[] = {
+        {"two", {600, 603}, -60, {0, 180, 181}},
+        {"the later one first", {603, 600}, -60, {0, 180, 181}},
+        {"three", {602, 604, 600}, -60, {0, 120, 121, 240, 241}},
+        {"the same minute twice", {600, 600, 603, 600}, -60, {0, 180, 181}},
+        {"six minutes apart", {600, 606}, -60, {0, 360}},
+        {"both within one check", {600, 603}, 200, {200, 201}},
+        {"asleep while the first would repeat", {600, 605}, -60, {0, 300}, {{300, 359}}},
+        {"a clock that goes back", {600, 603}, -60, {0, 180, 181}, {{190, -10}}},
+        {"back before the repeat", {600, 603}, -60, {0, 180}, {{180, -10}}},
+    };
+    for (const auto& times : cases) {
+        ReminderClass reminder;
+        reminder.rs_Enabled = reminder.rs_REveryDay = true;
+        for (const std::int16_t minute : times.minutes)
+            reminder.AddNewHourSetup({-1, minute, 0, 0});
+        for (int day = 0; day < 2; ++day) {
+            auto jumps = times.jumps;
+            std::vector<int> fires;
+            for (int second = times.from; second < 900; ++second) {
+                const int minute = (36000 + second) / 60;
+                if (reminder.Engine_CheckRunReminder(Moment_At(firstDay.addDays(day), minute)))
+                    fires.push_back(second);
+                if (!jumps.empty() && second == jumps.front().first) {
+                    second = jumps.front().second;
+                    jumps.clear();
+                }
+            }
+            EXPECT_EQ(fires, times.fires) << times.name;
         }
     }
 }
@@ -289,6 +324,10 @@ TEST_F(ReminderEngine, TheOddRulesOfTheRunDatesStand) {
     EXPECT_EQ(cycle.GetNext_RunDate(now), now.Today + 1) << "though it does not fire then";
     cycle.rs_ReDays = 0;
     EXPECT_EQ(cycle.GetPrevious_RunDate(Moment_At(firstDay.addDays(9), 0)), -1);
+
+    ReminderClass past = New_Reminder(rules[7]);
+    past.rs_SRLongday = -30;
+    EXPECT_EQ(past.GetPrevious_RunDate(now), -1) << "below the activation day, though that is 0";
 
     ReminderClass weekly = New_Reminder(rules[3]);
     EXPECT_NE(weekly.GetPrevious_RunDate(Moment_At(firstDay.addDays(9), 0)), -1);
