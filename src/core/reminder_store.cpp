@@ -51,17 +51,26 @@ int Read_Table(RecordReader& stream, std::vector<ReminderSlot>& table) {
     return 0;
 }
 
+void Date_Example(ReminderClass& example, Day today) {
+    const CalendarDate date = DayToDate(today);
+    if (example.rs_SRYear == 0 && example.rs_SRDay != 0 && example.rs_SRMonth != 0) {
+        // The same date every year; its Day is what the date page shows it by.
+        example.rs_SRLongday = DateToDay(example.rs_SRDay, example.rs_SRMonth, date.year);
+        return;
+    }
+    example.rs_SRLongday = today;
+    example.rs_SRDay = static_cast<std::uint8_t>(date.day);
+    example.rs_SRMonth = static_cast<std::uint8_t>(date.month);
+    example.rs_SRYear = static_cast<std::int16_t>(date.year);
+}
+
 // An example for an exact date that names none is for the day of the first start.
 void Date_Examples(Day today) {
     for (ReminderSlot& slot : Global_Reminders) {
         if (!slot.Used || slot.Reminder.Peek().rs_DateType_Used != DateType::ExactDate ||
             slot.Reminder.Peek().rs_SRLongday != 0)
             continue;
-        const CalendarDate date = DayToDate(today);
-        slot.Reminder->rs_SRLongday = today;
-        slot.Reminder->rs_SRDay = static_cast<std::uint8_t>(date.day);
-        slot.Reminder->rs_SRMonth = static_cast<std::uint8_t>(date.month);
-        slot.Reminder->rs_SRYear = static_cast<std::int16_t>(date.year);
+        Date_Example(*slot.Reminder, today);
     }
 }
 
@@ -148,6 +157,24 @@ std::int32_t Find_ReminderIndex(std::int32_t id, std::int32_t id2) {
     if (found == Global_Reminders.end())
         return -1;
     return static_cast<std::int32_t>(found - Global_Reminders.begin());
+}
+
+void Settle_IdPair(std::int32_t index) {
+    const auto at = static_cast<std::size_t>(index);
+    const std::int32_t id = Global_Reminders[at].Reminder.Peek().rs_ID;
+    const std::int32_t id2 = Global_Reminders[at].Reminder.Peek().rs_ID2;
+    const auto Renew = [](const ReminderSlot& slot) {
+        slot.Reminder->rs_ID = Get_NewReminderID(slot.Reminder->rs_ID2);
+    };
+    if (Find_ReminderIndex(id, id2) != index) {
+        Renew(Global_Reminders[at]);
+        return;
+    }
+    for (std::size_t later = at + 1; later < Global_Reminders.size(); ++later) {
+        const ReminderSlot& slot = Global_Reminders[later];
+        if (slot.Used && slot.Reminder.Peek().rs_ID == id && slot.Reminder.Peek().rs_ID2 == id2)
+            Renew(slot);
+    }
 }
 
 void Delete_ReminderSlot(std::int32_t index) {

@@ -80,6 +80,9 @@ AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& e
 std::int32_t Get_NewReminderID(std::int32_t& id2);
 // Slot of the used reminder with this pair of numbers, or -1.
 std::int32_t Find_ReminderIndex(std::int32_t id, std::int32_t id2);
+// Leaves the pair of the used slot to it alone, before anything is told by it: the first slot that
+// has the pair is the one that was found by it so far, and keeps it; others get a fresh one.
+void Settle_IdPair(std::int32_t index);
 // Frees a slot; the used ones behind it move down in order. An index outside does nothing.
 void Delete_ReminderSlot(std::int32_t index);
 // A free slot; the table grows by 20 when there is none.

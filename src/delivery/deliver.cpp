@@ -35,6 +35,7 @@ void Deliver_Reminder(std::int32_t index) {
     const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
     if (!slot.Used || slot.Reminder == nullptr)
         return;
+    Settle_IdPair(index);
     const ReminderClass& reminder = slot.Reminder.Peek();
     Play_Sound(reminder);
     switch (reminder.rs_Reminder_Type) {

@@ -42,7 +42,11 @@ void Apply_ToWindow(frmImportantRWin& caller, const Action& action) {
 
 auto Remind_Again(std::int32_t option) {
     return [option](std::int32_t id, std::int32_t id2) {
-        return Find_ReminderIndex(id, id2) != -1 && Choose_RA(option, id, id2);
+        const std::int32_t index = Find_ReminderIndex(id, id2);
+        if (index == -1)
+            return false;
+        Settle_IdPair(index);
+        return Choose_RA(option, id, id2);
     };
 }
 

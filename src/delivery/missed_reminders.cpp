@@ -44,7 +44,9 @@ QString Day_Prefix(Day missed, Day today) {
 
 std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
     std::vector<MissedEntry> rows;
-    for (const ReminderSlot& slot : Global_Reminders) {
+    const auto count = static_cast<std::int32_t>(Global_Reminders.size());
+    for (std::int32_t index = 0; index < count; ++index) {
+        const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
         if (!slot.Used || slot.Pending || !slot.Reminder.Peek().rs_Enabled)
             continue;
         ReminderClass& reminder = *slot.Reminder;
@@ -53,6 +55,8 @@ std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
             continue;
         QString text = reminder.rs_Text;
         text.replace("\r\n"_L1, " - "_L1);
+        // A row is found again by its pair.
+        Settle_IdPair(index);
         rows.push_back(
             {Day_Prefix(*missed, now.Today) + text, reminder.rs_ID, reminder.rs_ID2, *missed});
     }

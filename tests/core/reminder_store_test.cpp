@@ -40,9 +40,16 @@ TEST_F(ReminderStore, ANewAccountGetsTheExamplesWhateverTheyAre) {
     EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::NoFile);
     EXPECT_EQ(Global_Reminders.size(), 51U);
     Add_Reminder(4).rs_DateType_Used = DateType::ExactDate; // and no date: for the first day
+    ReminderClass& yearly = Add_Reminder(5);
+    yearly.rs_DateType_Used = DateType::ExactDate;
+    yearly.rs_SRDay = 24;
+    yearly.rs_SRMonth = 12;
     ASSERT_TRUE(Save_Reminders(exampleFile));
     EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Examples);
-    EXPECT_EQ(Used_Ids(), (std::vector<std::int32_t>{4}));
+    EXPECT_EQ(Used_Ids(), (std::vector<std::int32_t>{4, 5}));
+    EXPECT_EQ(Global_Reminders[1].Reminder->rs_SRYear, 0);
+    EXPECT_EQ(Global_Reminders[1].Reminder->GetNext_RunDate(), DateToDay(24, 12, 2026));
+    EXPECT_EQ(Global_Reminders[1].Reminder->rs_SRLongday, DateToDay(24, 12, 2026));
     EXPECT_EQ(Global_Reminders[0].Reminder->GetNext_RunDate(), DateToDay(2, 3, 2026));
     EXPECT_EQ(Global_Reminders[0].Reminder->rs_SRYear, 2026);
     files.content[exampleFile] = "broken";

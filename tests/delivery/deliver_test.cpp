@@ -1,4 +1,6 @@
+#include "core/remind_again.h"
 #include "delivery/deliver.h"
+#include "delivery/message_menu.h"
 #include "support/fake_files.h"
 #include "window_fixture.h"
 
@@ -87,6 +89,36 @@ TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
     }
     EXPECT_FALSE(Any_MessageActive());
     EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(Deliver, Reminders_that_share_a_pair_are_all_shown_and_found_again) {
+    const auto Shown = [](const auto& entries, auto isUsed) {
+        return std::count_if(entries.begin(), entries.end(), isUsed);
+    };
+    for (const int type : {0, 1, 2}) {
+        for (const int first : {0, 1}) {
+            Unload_ReminderWindows();
+            Start_Afresh(9, 0, 0);
+            for (const char16_t* text : {u"A", u"B"}) {
+                const std::int32_t index =
+                    Add_Typed(QString::fromUtf16(text), static_cast<ReminderType>(type));
+                Reminder(index).rs_ID = 0;
+            }
+            for (const int index : {first, 1 - first, first})
+                Deliver_Reminder(index);
+            EXPECT_EQ(Shown(Global_ToolbarMessages, [](const auto& one) { return one.Active; }) +
+                          Shown(Global_NearWindows, [](const auto& one) { return one.Used; }) +
+                          Shown(Global_CenterWindows, [](const auto& one) { return one.Used; }),
+                      2)
+                << type;
+        }
+    }
+    Start_Afresh(9, 0, 0);
+    Deliver_Reminder(Add_Typed(u"A"_s, ReminderType::InsideToolbar));
+    Reminder(Add_Typed(u"made since"_s, ReminderType::InsideToolbar)).rs_ID = 0;
+    Message_RemindAgain(0, 0);
+    EXPECT_EQ(Find_ReminderIndex(Global_RA_Reminders[0].ID, Global_RA_Reminders[0].ID2), 0);
+    EXPECT_NE(Reminder(1).rs_ID, 0);
 }
 
 TEST_F(Deliver, A_thousand_at_once_are_quick_and_each_is_reached_once) {

@@ -15,8 +15,7 @@ ReminderRef ReminderRef::Of_Slot(std::int32_t slot) {
     ReminderRef made;
     if (const ReminderSlot* used = Used_Slot(slot)) {
         made.object = &used->Reminder.Peek();
-        made.id = made.object->rs_ID;
-        made.id2 = made.object->rs_ID2;
+        made.identity = made.object->Identity.Value();
         made.lastSlot = slot;
     }
     return made;
@@ -24,8 +23,8 @@ ReminderRef ReminderRef::Of_Slot(std::int32_t slot) {
 
 bool ReminderRef::Stands_At(std::int32_t slot) const {
     const ReminderSlot* used = Used_Slot(slot);
-    return used != nullptr && &used->Reminder.Peek() == object && object->rs_ID == id &&
-           object->rs_ID2 == id2;
+    return used != nullptr && &used->Reminder.Peek() == object &&
+           object->Identity.Value() == identity;
 }
 
 std::int32_t ReminderRef::Slot() const {
@@ -51,5 +50,5 @@ ReminderClass* ReminderRef::Get() const {
 }
 
 bool ReminderRef::operator==(const ReminderRef& other) const {
-    return object == other.object && id == other.id && id2 == other.id2;
+    return object == other.object && identity == other.identity;
 }

@@ -26,9 +26,8 @@ public:
 private:
     bool Stands_At(std::int32_t slot) const;
 
-    // Both are compared: a new reminder may get the memory of a deleted one, or its number.
+    // Both are compared: a new reminder may get the memory of a deleted one.
     const ReminderClass* object = nullptr;
-    std::int32_t id = 0;
-    std::int32_t id2 = 0;
+    std::uint64_t identity = 0;
     mutable std::int32_t lastSlot = -1;
 };

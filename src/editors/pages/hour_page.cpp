@@ -119,12 +119,12 @@ void HourPage::hrDelLabel_Click(int row) {
     const ReminderClass* before = view->host.Selected_Reminder();
     if (before == nullptr)
         return;
-    const std::pair id(before->rs_ID, before->rs_ID2);
+    const std::uint64_t identity = before->Identity.Value();
     const QPointer<HourPage> alive(this);
     if (!view->host.Save_View_To_Reminder(CategoryOnSave::Take) || !alive)
         return;
     ReminderClass* reminder = view->host.Selected_Reminder();
-    if (reminder == nullptr || std::pair(reminder->rs_ID, reminder->rs_ID2) != id)
+    if (reminder == nullptr || reminder->Identity.Value() != identity)
         return;
     reminder->DeleteHourSetup(row);
     Show_HourSetup_List(*reminder);
