@@ -149,7 +149,8 @@ TEST_F(Program, A_Damaged_File_Is_Told_Of_And_Kept_Beside_The_Next_Save) {
     for (const Case& test : {Case{"RSaveFile001\x01", u"Invalid file"_s},
                              Case{"RSaveFile009", u"Version not supported"_s}}) {
         Put(Reminders(), test.bytes);
-        system.dialogs.Expect_Message(u"Error loading reminders configuration:\r\n"_s + test.line);
+        system.dialogs.Expect_Message(u"Error loading reminders configuration:\r\n"_s + test.line,
+                                      platform::BoxStyle::Critical);
         Application program;
         ASSERT_TRUE(program.Load());
         EXPECT_EQ(system.dialogs.shown.back().style, platform::BoxStyle::Critical);
@@ -162,7 +163,8 @@ TEST_F(Program, A_Damaged_File_Is_Told_Of_And_Kept_Beside_The_Next_Save) {
 
 TEST_F(Program, The_End_During_A_Box_Of_The_Load_Saves_Nothing) {
     Put(Reminders(), "nonsense");
-    system.dialogs.Expect_Message(u"Invalid file"_s);
+    system.dialogs.Expect_Message(u"Error loading reminders configuration:\r\nInvalid file"_s,
+                                  platform::BoxStyle::Critical);
     Application program;
     system.dialogs.whileOpen = [&](const auto&) { program.End(platform::EndReason::Asked); };
     EXPECT_FALSE(program.Load());
@@ -180,7 +182,8 @@ TEST_F(Program, A_Failed_Save_Is_Said_To_The_User_After_All_Saves_But_Not_To_The
         std::string savedBefore;
         system.dialogs.whileOpen = [&](const auto&) { savedBefore = Saved(); };
         if (byUser) {
-            system.dialogs.Expect_Message(u"Error saving reminders"_s);
+            system.dialogs.Expect_Message(u"Error saving reminders"_s,
+                                          platform::BoxStyle::Critical);
             program.Unload();
             EXPECT_EQ(savedBefore, "rareminders.dat links.dat notes.dat rcategories.txt");
         } else {
@@ -195,7 +198,7 @@ TEST_F(Program, A_Box_At_The_End_Goes_When_The_Session_Ends) {
     Application program;
     ASSERT_TRUE(program.Load());
     system.files.refusedWrites = {u"/reminders.dat"_s};
-    system.dialogs.Expect_Message(u"Error saving reminders"_s);
+    system.dialogs.Expect_Message(u"Error saving reminders"_s, platform::BoxStyle::Critical);
     system.dialogs.whileOpen = [&](const auto&) { program.End(platform::EndReason::Asked); };
     program.Unload();
     EXPECT_TRUE(system.dialogs.dismissed);
@@ -226,9 +229,10 @@ TEST_F(Program, Links_And_Notes_That_Cannot_Be_Read_Are_Told_Of_And_What_Comes_F
     Put(Home() + "/User-1/links.dat"_L1, "LinksSaveFile002");
     Put(Home() + "/User-1/notes.dat"_L1, "nonsense");
     QFile::remove(system.paths.Shipped_Folder() + "/tooltips.txt"_L1);
-    system.dialogs.Expect_Message(u"Error loading tooltips"_s);
-    system.dialogs.Expect_Message(u"Error loading links (file version not supported)"_s);
-    system.dialogs.Expect_Message(u"Error loading notes"_s);
+    system.dialogs.Expect_Message(u"Error loading tooltips"_s, platform::BoxStyle::Critical);
+    system.dialogs.Expect_Message(u"Error loading links (file version not supported)"_s,
+                                  platform::BoxStyle::Critical);
+    system.dialogs.Expect_Message(u"Error loading notes"_s, platform::BoxStyle::Critical);
     Application program;
     ASSERT_TRUE(program.Load());
     EXPECT_FALSE(Global_TooltipsLoaded);

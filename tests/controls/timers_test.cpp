@@ -49,8 +49,8 @@ TEST_F(TimersTest, A_message_box_holds_the_work_back_and_the_next_tick_does_it) 
     dialogs.whileOpen = [&](const ScriptedDialogs::Box&) {
         timers.Tick(TimerName::R_CheckDate_Timer);
     };
-    dialogs.Expect_Message();
-    dialogs.Message(u"Error saving reminders"_s, platform::BoxStyle::Critical);
+    dialogs.Expect_Message(u"text"_s);
+    dialogs.Message(u"text"_s, platform::BoxStyle::Exclamation);
     EXPECT_EQ(checks, 0);
     EXPECT_TRUE(timers.Is_Enabled(TimerName::R_CheckDate_Timer));
     timers.Tick(TimerName::R_CheckDate_Timer);

@@ -134,8 +134,9 @@ TEST_F(NotesEditor, A_new_note_is_ready_for_typing_and_a_deleted_one_is_gone) {
     Click(u"Click to delete the selected note"_s);
     EXPECT_FALSE(Note(3).InUse);
     EXPECT_EQ(column->Selected_Note(), NoNote);
-    system.dialogs.Expect_Question(u"\"Example note 2\""_s, platform::Answer::No);
-    system.dialogs.Expect_Question(u"\"Example note 2\""_s, platform::Answer::Yes);
+    for (const auto answer : {platform::Answer::No, platform::Answer::Yes})
+        system.dialogs.Expect_Question(u"Delete the note \"Example note 2\" ?"_s, answer,
+                                       platform::BoxStyle::Question, u"Delete note"_s);
     QTest::mouseClick(column->Card_Of(1)->Field(3), Qt::LeftButton);
     EXPECT_TRUE(Note(1).InUse);
     QTest::mouseClick(column->Card_Of(1)->Field(3), Qt::LeftButton);
@@ -170,9 +171,13 @@ TEST_F(NotesEditor, Categories_are_added_renamed_and_deleted) {
     EXPECT_EQ(system.dialogs.shown.back().start, u"Another Category"_s);
     EXPECT_EQ(Global_NoteCategories[1], u"Other"_s);
     const QString question = u"All the notes inside this category will be deleted\r\nContinue ?"_s;
-    system.dialogs.Expect_Question(question, platform::Answer::No);
+    const auto Expect_Question = [&](platform::Answer answer) {
+        system.dialogs.Expect_Question(question, answer, platform::BoxStyle::Question,
+                                       u"Delete \"Other\""_s);
+    };
+    Expect_Question(platform::Answer::No);
     QTest::keyClick(list, Qt::Key_Delete);
-    system.dialogs.Expect_Question(question, platform::Answer::Yes);
+    Expect_Question(platform::Answer::Yes);
     const QPoint first = list->visualItemRect(list->item(0)).center();
     QTest::mouseClick(list->viewport(), Qt::RightButton, {}, first);
     EXPECT_EQ(form->Selected_Category(), 1);

@@ -14,7 +14,9 @@
 
 class ScriptedDialogs : public Provided<platform::Dialogs> {
 public:
+    using Style = platform::BoxStyle;
     enum class Kind { Message, Question, Input, Open_File };
+    static inline const QString Product = QStringLiteral("Tockly");
     struct Box {
         Kind kind = Kind::Message;
         QString text; // the prompt of an input box, the title of a file dialog
@@ -35,19 +37,21 @@ public:
         }
     }
 
-    // The text has to stand in the box's text; empty fits every box.
-    void Expect_Message(const QString& text = {}) {
-        script.push_back({Kind::Message, text, platform::Answer::Cancel, {}, 0});
+    // The whole text, and the box's look.
+    void Expect_Message(const QString& text, platform::BoxStyle style = Style::Exclamation,
+                        const QString& title = Product) {
+        script.push_back({Kind::Message, text, style, title});
     }
-    void Expect_Question(const QString& text, platform::Answer answer) {
-        script.push_back({Kind::Question, text, answer, {}, 0});
+    void Expect_Question(const QString& text, platform::Answer answer,
+                         platform::BoxStyle style = Style::Question,
+                         const QString& title = Product) {
+        script.push_back({Kind::Question, text, style, title, answer});
     }
     void Expect_Input(const QString& prompt, std::optional<QString> answer) {
-        script.push_back({Kind::Input, prompt, platform::Answer::Cancel, std::move(answer), 0});
+        script.push_back({Kind::Input, prompt, {}, {}, {}, std::move(answer)});
     }
     void Expect_Open_File(const QString& title, std::optional<QString> answer, int filter = 0) {
-        script.push_back(
-            {Kind::Open_File, title, platform::Answer::Cancel, std::move(answer), filter});
+        script.push_back({Kind::Open_File, title, {}, {}, {}, std::move(answer), filter});
     }
     int Messages() const {
         return static_cast<int>(std::count_if(
@@ -82,9 +86,17 @@ private:
     struct Step {
         Kind kind = Kind::Message;
         QString text;
+        platform::BoxStyle style = platform::BoxStyle::Plain; // of message and question
+        QString title;
         platform::Answer answer = platform::Answer::Cancel;
-        std::optional<QString> line;
+        std::optional<QString> line{};
         int filter = 0;
+
+        bool Fits(const Box& box) const {
+            const bool hasLook = kind == Kind::Message || kind == Kind::Question;
+            return kind == box.kind && text == box.text &&
+                   (!hasLook || (style == box.style && title == box.title));
+        }
     };
 
     Step Show(const Box& box) {
@@ -93,10 +105,12 @@ private:
         }
         shown.push_back(box);
         Step step;
-        if (script.empty() || script.front().kind != box.kind ||
-            !box.text.contains(script.front().text)) {
-            ADD_FAILURE() << "a box that nobody expected: " << box.text.toStdString();
-        } else {
+        // A box that nobody expected is an expected one with other words, as a rule.
+        if (script.empty() || !script.front().Fits(box)) {
+            ADD_FAILURE() << "a box that nobody expected: " << box.text.toStdString() << "\nstyle "
+                          << static_cast<int>(box.style) << ", title " << box.title.toStdString();
+        }
+        if (!script.empty() && script.front().kind == box.kind) {
             step = script.front();
             script.pop_front();
         }

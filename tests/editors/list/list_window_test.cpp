@@ -18,6 +18,10 @@ protected:
         Type(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"0"_s);
     }
     void Expect_Refusal() { dialogs.Expect_Message(u"Invalid Every X weeks value"_s); }
+    void Expect_DeleteQuestion(platform::Answer answer) {
+        dialogs.Expect_Question(u"Delete: one ?"_s, answer, platform::BoxStyle::Question,
+                                u"Confirm"_s);
+    }
     static std::string Record_Of(const ReminderClass& reminder) {
         RecordWriter stream;
         reminder.SaveData_To_File(stream);
@@ -215,12 +219,11 @@ TEST_F(ListWindow, New_copy_paste_and_delete) {
     EXPECT_EQ(Reminder(2).rs_Title, u"one"_s);
     EXPECT_EQ(Reminder(2).rs_Category, u"-- (All)"_s);
     EXPECT_EQ(Reminder(2).rs_ID, 2);
-    dialogs.Expect_Question(u"Delete: one ?"_s, platform::Answer::No);
+    Expect_DeleteQuestion(platform::Answer::No);
     Click(window.wbButton6);
     EXPECT_EQ(Titles().size(), 3);
-    dialogs.Expect_Question(u"Delete: one ?"_s, platform::Answer::Yes);
+    Expect_DeleteQuestion(platform::Answer::Yes);
     Click(window.wbButton6);
-    EXPECT_EQ(dialogs.shown.back().title, u"Confirm"_s);
     EXPECT_EQ(Titles(), (QStringList{u"Reminder"_s, u"one"_s}));
     EXPECT_EQ(Selected_Title(), u"none"_s);
     EXPECT_TRUE(window.Picture2->isHidden());
@@ -348,7 +351,7 @@ TEST_F(ListWindow, Display_mode_functions_and_sound) {
     ASSERT_TRUE(files.Replace(base + u".mp3"_s, "x"));
     auto* browse = Named<wbButton>(&sound, u"Choose a sound file"_s);
     dialogs.Expect_Open_File(u"Open File"_s, base, 1);
-    dialogs.Expect_Message(u"Can't open file: "_s + base + u".wav"_s);
+    dialogs.Expect_Message(u"Can't open file: "_s + base + u".wav"_s, platform::BoxStyle::Critical);
     Click(browse);
     dialogs.Expect_Open_File(u"Open File"_s, base, 0);
     Click(browse);

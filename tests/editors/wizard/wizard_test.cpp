@@ -31,14 +31,16 @@ protected:
                 return i;
         return -1;
     }
+    void Expect_Doubt(platform::Answer answer) {
+        system.dialogs.Expect_Question(u"The new reminder hasn't been created yet.\r\nDo you want "
+                                       "to quit the wizard ?"_s,
+                                       answer, BoxStyle::Exclamation);
+    }
     // Next stays where it is, after this box.
     void Expect_Refusal(const QString& text, BoxStyle style = BoxStyle::Exclamation) {
         const int page = Page();
-        system.dialogs.Expect_Message();
+        system.dialogs.Expect_Message(text, style);
         Next();
-        ASSERT_FALSE(system.dialogs.shown.empty());
-        EXPECT_EQ(system.dialogs.shown.back().text, text);
-        EXPECT_EQ(system.dialogs.shown.back().style, style);
         EXPECT_EQ(Page(), page);
     }
     // From the page Time to the end, with a time, a message and a category.
@@ -234,9 +236,7 @@ TEST_F(WizardTest, TheCalendarsFillTheirBoxesAndGoWithTheWizard) {
     choose(u"wbButton2"_s, 31);
     EXPECT_EQ(Find<QLineEdit>(u"Text3"_s)->text(), u"31/03"_s);
     Click(u"wbButton2"_s);
-    system.dialogs.Expect_Question(u"The new reminder hasn't been created yet.\r\nDo you want to "
-                                   "quit the wizard ?"_s,
-                                   platform::Answer::Yes);
+    Expect_Doubt(platform::Answer::Yes);
     window->close();
     EXPECT_EQ(Open_Window<frmCalendar>(), nullptr);
 }
@@ -244,15 +244,14 @@ TEST_F(WizardTest, TheCalendarsFillTheirBoxesAndGoWithTheWizard) {
 TEST_F(WizardTest, AsksBeforeItClosesAndNeverAtTheEndOfTheProgram) {
     EXPECT_EQ(toolbar.guard, u"The Hide/Minimize are disabled during the setup Wizard"_s);
     EXPECT_EQ(toolbar.shown, 1);
-    system.dialogs.Expect_Question(u"hasn't been created"_s, platform::Answer::No);
+    Expect_Doubt(platform::Answer::No);
     QTest::keyClick(window, Qt::Key_Escape);
-    EXPECT_EQ(system.dialogs.shown[0].style, BoxStyle::Exclamation);
     EXPECT_TRUE(window->isVisible());
     QWidget* first = window;
     Open();
     EXPECT_EQ(window, first);
     // The program ends while the question is on view.
-    system.dialogs.Expect_Question({}, platform::Answer::No);
+    Expect_Doubt(platform::Answer::No);
     system.dialogs.whileOpen = [this](const auto&) {
         Set_Program_Ending(true);
         static_cast<Form*>(window)->Unload(UnloadMode::Ending);

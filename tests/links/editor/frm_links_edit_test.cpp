@@ -149,10 +149,12 @@ TEST_F(LinksEditor, The_keys_do_what_the_buttons_do_and_the_row_stays_selected) 
     EXPECT_EQ(Rows(), Start);
     QTest::keyClick(list, Qt::Key_Delete); // a link goes at once
     EXPECT_EQ(list->Selected_Row(), 0);
-    system.dialogs.Expect_Question(u"delete the category:\r\nB ?"_s, Answer::No);
+    system.dialogs.Expect_Question(u"Are you sure you want to delete the category:\r\nB ?"_s,
+                                   Answer::No);
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(Global_LinkArray.size(), 4U);
-    system.dialogs.Expect_Question(u"delete the category:\r\nB ?"_s, Answer::Yes);
+    system.dialogs.Expect_Question(u"Are you sure you want to delete the category:\r\nB ?"_s,
+                                   Answer::Yes);
     QTest::keyClick(list, Qt::Key_Delete);
     EXPECT_EQ(Rows(), u"0-=e"_s);
     QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
@@ -189,13 +191,14 @@ TEST_F(LinksEditor, Files_come_by_dropping_or_browsing) {
     system.dialogs.Expect_Question(u"Add link to file ?\r\n/tmp/a name.pdf"_s, Answer::No);
     Drop({u"/tmp/a name.pdf"_s});
     EXPECT_EQ(Rows(), Start);
-    system.dialogs.Expect_Question(u"Add link to file ?"_s, Answer::Yes);
+    system.dialogs.Expect_Question(u"Add link to file ?\r\n/tmp/a name.pdf"_s, Answer::Yes);
     Drop({u"/tmp/a name.pdf"_s});
     EXPECT_EQ(Row(3).URL + Row(3).LinkName, u"1/tmp/a name.pdfa name.pdf"_s);
     const QString there = system.paths.Shipped_Folder() + u"/b"_s;
     ASSERT_TRUE(system.files.Replace(there, "b"));
     system.dialogs.Expect_Open_File(u"Open File"_s, u"/no/such file"_s);
-    system.dialogs.Expect_Message(u"Can't open file: /no/such file"_s);
+    system.dialogs.Expect_Message(u"Can't open file: /no/such file"_s,
+                                  platform::BoxStyle::Critical);
     system.dialogs.Expect_Open_File(u"Open File"_s, there);
     Click(u"Choose a file"_s);
     EXPECT_EQ(Field(u"Path"_s)->text(), u"/tmp/a name.pdf"_s);

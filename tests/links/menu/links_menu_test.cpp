@@ -158,7 +158,8 @@ TEST_F(LinksMenu, A_link_is_opened_once_the_whole_menu_has_gone) {
     Global_LinkArray.clear();
     Add(u"0help:about"_s, u"About"_s);
     Load_Global_LinksArray();
-    system.dialogs.Expect_Message(u"Tockly"_s);
+    system.dialogs.Expect_Message(u"Tockly\nVersion 1.1"_s, platform::BoxStyle::Information,
+                                  u"About..."_s);
     system.dialogs.whileOpen = [&](const auto&) {
         EXPECT_FALSE(LinksMenu_Visible());
         Load_Global_LinksArray();
