@@ -1,4 +1,5 @@
 #include "app/program.h"
+#include "controls/program_look.h"
 #include "platform/system.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@ int main(int argc, char** argv) {
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(u"Tockly"_s);
     QApplication::setDesktopFileName(u"tockly"_s);
+    Set_ProgramLook();
     // Closing a window never ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     platform::Provide_Base_Services();

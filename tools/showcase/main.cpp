@@ -2,6 +2,7 @@
 // button of the program opens.
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/program_look.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "core/categories.h"
@@ -84,6 +85,7 @@ private:
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    Set_ProgramLook();
     platform::Provide_Base_Services();
     platform::Provide_Window_Services();
     Init_TimeRoutines();

@@ -1,5 +1,6 @@
 #include "editors/calendar/frm_calendar.h"
 
+#include "controls/combo_name.h"
 #include "controls/program_end.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
@@ -45,12 +46,12 @@ frmCalendar::frmCalendar(QWidget* owner) : Form(owner) {
 void frmCalendar::Build_Controls() {
     Combo1 = new QComboBox(this);
     Combo1->setGeometry(Margin, Margin, MonthWidth, FieldHeight);
-    Combo1->setAccessibleName(u"Month"_s);
+    Name_Combo(Combo1, u"Month"_s);
     Combo1->setMaxVisibleItems(12);
     Combo2 = new QComboBox(this);
     Combo2->setGeometry(Margin + MonthWidth + 4, Margin, YearWidth, FieldHeight);
-    Combo2->setAccessibleName(u"Year"_s);
     Combo2->setEditable(true);
+    Name_Combo(Combo2, u"Year"_s);
     Combo2->setInsertPolicy(QComboBox::NoInsert);
     Combo2->setCompleter(nullptr);
     DaysLabel = new DayGrid(CalendarRows, this);

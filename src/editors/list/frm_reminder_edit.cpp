@@ -1,6 +1,7 @@
 #include "editors/list/frm_reminder_edit.h"
 
 #include "accessories/help/help.h"
+#include "controls/combo_name.h"
 #include "controls/cool_tab.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
@@ -85,10 +86,10 @@ frmReminderEdit::frmReminderEdit() : filter(FilterAll) {
 frmReminderEdit::~frmReminderEdit() = default;
 
 void frmReminderEdit::Build_List(int listHeight) {
-    Add_Label(u"Show Category:"_s, ListLeft + 2, 12);
+    QLabel* label = Add_Label(u"Show Category:"_s, ListLeft + 2, 12);
     Combo2 = new QComboBox(this);
     Combo2->setGeometry(ListLeft + 92, 8, 194, 22);
-    Combo2->setAccessibleName(u"Show Category"_s);
+    Name_Combo(Combo2, u"Show Category"_s, label);
     new TooltipPicture(Tip_List, ListLeft + 292, 11, this);
     Add_Label(u"Click on a reminder to select it. Use the \"New\" button to add a new reminder"_s,
               ListLeft + 2, 34, CardWidth);

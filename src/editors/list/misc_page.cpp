@@ -1,11 +1,13 @@
 #include "editors/list/misc_page.h"
 
+#include "controls/combo_name.h"
 #include "controls/metrics.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "editors/list/page_labels.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -18,14 +20,14 @@ constexpr int NoteWidth = 364;
 
 MiscPage::MiscPage(QWidget* parent) : QWidget(parent) {
     setFont(Small_Font());
-    Add_Heading(u"Category:"_s, 8, 12, this);
+    QLabel* label = Add_Heading(u"Category:"_s, 8, 12, this);
     Combo1 = new QComboBox(this);
     Combo1->setEditable(true);
     // Names are taken as they are typed.
     Combo1->setCompleter(nullptr);
     Combo1->setInsertPolicy(QComboBox::NoInsert);
     Combo1->setGeometry(TextLeft, 8, 220, 22);
-    Combo1->setAccessibleName(u"Category"_s);
+    Name_Combo(Combo1, u"Category"_s, label);
     auto* wbButton11 = new wbButton(this);
     wbButton11->setGeometry(TextLeft + 226, 7, 72, 24);
     wbButton11->Set_Caption(u"Delete"_s);

@@ -1,6 +1,7 @@
 #include "editors/wizard/page_parts.h"
 
 #include "controls/chk_box.h"
+#include "controls/combo_name.h"
 #include "controls/form.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
@@ -146,11 +147,11 @@ wbButton* Add_CalendarButton(QWidget* parent, const QString& name, const QPoint&
 QComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
     auto* box = new QComboBox(parent);
     box->setObjectName(u"Combo1"_s);
-    box->setAccessibleName(u"Category"_s);
     box->setFont(Small_Font());
     box->setGeometry(place);
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
+    Name_Combo(box, u"Category"_s);
     box->setValidator(new FieldValidator(nullptr, box));
     box->addItem(u"--"_s);
     for (const CategoryEntry& entry : Global_Categories) {
