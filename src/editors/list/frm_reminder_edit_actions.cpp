@@ -1,5 +1,7 @@
 // The buttons below the list.
+#include "controls/field_word.h"
 #include "controls/program_end.h"
+#include "controls/wb_button.h"
 #include "delivery/deliver.h"
 #include "editors/list/card_list.h"
 #include "editors/list/copy_buffer.h"
@@ -9,6 +11,10 @@
 #include "platform/dialogs.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+const QString nothingSelected = u"Click on a reminder in the list first."_s;
+} // namespace
 
 // The new reminder is not selected: the pages stay with the one that is.
 void frmReminderEdit::New_Click() {
@@ -20,8 +26,10 @@ void frmReminderEdit::New_Click() {
 
 void frmReminderEdit::Delete_Click() {
     const ReminderClass* reminder = selection.Peek();
-    if (reminder == nullptr)
+    if (reminder == nullptr) {
+        Say_AtField(wbButton6, nothingSelected);
         return;
+    }
     const ReminderRef doomed = selection;
     const platform::Answer answer = platform::Dialogs::Get().Question(
         u"Delete: "_s + reminder->rs_Title + u" ?"_s, false, {.Title = u"Confirm"_s});
@@ -35,6 +43,8 @@ void frmReminderEdit::Delete_Click() {
 }
 
 void frmReminderEdit::Copy_Click() {
+    if (selection.Peek() == nullptr)
+        Say_AtField(wbButton8, nothingSelected);
     if (!Save_View_To_Reminder(CategoryOnSave::Take))
         return;
     const ReminderClass* reminder = selection.Peek();
@@ -65,6 +75,8 @@ void frmReminderEdit::Paste_Click() {
 }
 
 void frmReminderEdit::Test_Click() {
+    if (selection.Peek() == nullptr)
+        Say_AtField(wbButton10, nothingSelected);
     if (Selected_Reminder() == nullptr || !Save_View_To_Reminder(CategoryOnSave::Keep) ||
         Program_Is_Ending())
         return;

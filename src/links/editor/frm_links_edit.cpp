@@ -1,6 +1,7 @@
 #include "links/editor/frm_links_edit.h"
 
 #include "accessories/help/help.h"
+#include "controls/field_word.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
@@ -227,6 +228,7 @@ void frmLinksEdit::wbButton9_Click() {
 void frmLinksEdit::wbButton10_Click() {
     Store_Panel();
     edit.Apply();
+    Say_AtField(wbButton10, u"The menu shows the list now."_s);
 }
 
 void frmLinksEdit::wbButton2_Click() {
