@@ -99,6 +99,7 @@ private:
     void Let_Go();
     void Paint_SystemFace(QPainter& painter);
     void Paint_Decorations(QPainter& painter);
+    QRect Caption_Room() const;
     void Paint_Caption(QPainter& painter);
 
     QString caption;

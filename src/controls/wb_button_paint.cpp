@@ -6,6 +6,12 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include <algorithm>
+
+namespace {
+constexpr int PictureGap = 2; // pixels, between a picture and the caption
+} // namespace
+
 QColor wbButton::Face_Color() const {
     const QColor color = palette::To_Color(highlighted ? hlColor : backColor);
     return isEnabled() ? color : palette::Faded(color);
@@ -84,16 +90,31 @@ void wbButton::Paint_Decorations(QPainter& painter) {
     }
 }
 
+// Beside a picture that is not at the centre.
+QRect wbButton::Caption_Room() const {
+    QRect room(2, labelTop, width() - 4, height() - labelTop);
+    if (!picture.isNull() && !centerImage) {
+        room.setLeft(std::max(room.left(), Picture_Rect().right() + 1 + PictureGap));
+    }
+    return room;
+}
+
+// At its place as far as the room lets it; its blanks at the front only move it.
 void wbButton::Paint_Caption(QPainter& painter) {
-    if (caption.isEmpty()) {
+    const QString text = caption.trimmed();
+    if (text.isEmpty()) {
         return;
     }
+    const QFontMetrics metrics = fontMetrics();
+    const QRect room = Caption_Room();
+    const QRect place = Caption_Rect();
+    const int width = metrics.horizontalAdvance(text);
+    const int blanks = metrics.horizontalAdvance(caption.left(caption.indexOf(text)));
+    const int left =
+        place.left() + (place.width() - metrics.horizontalAdvance(caption)) / 2 + blanks;
+    const int kept = std::max(std::min(left, room.right() + 1 - width), room.left());
     painter.setPen(Caption_Color());
-    QRect place = Caption_Rect();
-    QString text = caption;
-    if (fontMetrics().horizontalAdvance(text) > width() - 4) {
-        place = QRect(2, place.top(), width() - 4, place.height());
-        text = fontMetrics().elidedText(text, Qt::ElideRight, place.width());
-    }
-    painter.drawText(place, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, text);
+    painter.drawText(QRect(kept, room.top(), room.right() + 1 - kept, room.height()),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine | Qt::TextDontClip,
+                     metrics.elidedText(text, Qt::ElideRight, room.width()));
 }

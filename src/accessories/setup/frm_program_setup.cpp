@@ -16,6 +16,8 @@
 #include <QPointer>
 #include <QRadioButton>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -104,8 +106,8 @@ void frmProgramSetup::Add_AutoHide() {
     new TooltipPicture(AutoHideTip, PictureLeft, AutoHideTop + 18, this);
     const int waitTop = AutoHideTop + 18 + RowStep;
     const QString waitName = u"Wait time: (Seconds)"_s;
-    Add_Label(waitName, Indent, waitTop + 3);
-    Text2 = Add_Field(waitName, FieldLeft, waitTop, 72);
+    const QLabel* label = Add_Label(waitName, Indent, waitTop + 3);
+    Text2 = Add_Field(waitName, std::max(FieldLeft, label->geometry().right() + 6), waitTop, 72);
     Text2->setMaxLength(LongestWaitText);
     new TooltipPicture(WaitTip, PictureLeft, waitTop + 2, this);
     Add_HideModes(waitTop + RowStep + 6);

@@ -34,6 +34,12 @@ constexpr int TextHeight = CheckTop - TextTop - 1;
 constexpr int TextMargin = 2;
 constexpr int DisabledLeft = 132;
 constexpr int DisabledTop = 52;
+constexpr int DisabledWidth = CardWidth - DisabledLeft - 2;
+
+const QString& Disabled_Text() {
+    static const QString text = u"Disabled for the rest of the day"_s;
+    return text;
+}
 
 QPixmap Icon_Picture(const QString& name, IconColors colors, qreal scale) {
     const QString key = u"reminder/%1/%2/%3"_s.arg(name).arg(static_cast<int>(colors)).arg(scale);
@@ -89,7 +95,8 @@ CardView::CardView(QWidget* parent) : QWidget(parent) {
     resize(CardWidth, CardHeight);
     setFont(Small_Font());
     Text12 = new CardText(this);
-    Text12->setGeometry(TextLeft, TextTop, CardWidth - TextLeft - 1, TextHeight);
+    // The frames run around it.
+    Text12->setGeometry(TextLeft, TextTop, CardWidth - TextLeft - 2, TextHeight);
     p1ChkImage = new ChkBox(u"Enabled"_s, TextLeft, CheckTop, this);
     p1ChkImage->setFocusPolicy(Qt::ClickFocus);
     Color_Text();
@@ -108,8 +115,15 @@ void CardView::Show_Content(const CardContent& shown) {
     Set_Icon(shown.Icon, shown.Colors);
     Set_NextRun(shown.NextRun, shown.RunsToday);
     content = shown;
+    Text12->resize(Text12->width(), TextHeight - Disabled_Raise());
     p1ChkImage->Set_Ticked(shown.Enabled && !shown.DisabledForToday);
     update();
+}
+
+// With a wide face the words take a second line, and the text above gives one of its own.
+int CardView::Disabled_Raise() const {
+    const bool wraps = fontMetrics().horizontalAdvance(Disabled_Text()) > DisabledWidth;
+    return content.DisabledForToday && wraps ? SmallLineHeight : 0;
 }
 
 void CardView::Set_Title(const QString& title) {
@@ -209,9 +223,9 @@ void CardView::paintEvent(QPaintEvent*) {
         Set_PIC_By_ImageName(content.Icon, ReminderIconIMG, content.Colors, devicePixelRatioF());
     painter.drawPixmap(IconLeft, IconTop, ReminderIconIMG.Picture);
     if (content.DisabledForToday)
-        painter.drawText(
-            QRect(DisabledLeft, DisabledTop, CardWidth - DisabledLeft - 2, SmallLineHeight),
-            Qt::AlignLeft | Qt::AlignVCenter, u"Disabled for the rest of the day"_s);
+        painter.drawText(QRect(DisabledLeft, DisabledTop - Disabled_Raise(), DisabledWidth,
+                               SmallLineHeight + Disabled_Raise()),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, Disabled_Text());
     if (current)
         Draw_Frame(painter, rect().adjusted(1, 1, -1, -1), palette::To_Color(palette::Focus_Mark));
 }

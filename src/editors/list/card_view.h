@@ -86,6 +86,7 @@ protected:
 
 private:
     void Color_Text();
+    int Disabled_Raise() const; // pixels
     void Paint_Band(QPainter& painter);
 
     CardContent content;

@@ -92,9 +92,9 @@ void HourPage::View::Build_Every() {
         box->Set_Radio(true);
     p3Chk[0]->setAccessibleName(u"Starting at"_s);
     p3Chk[1]->setAccessibleName(u"Starting when the program starts"_s);
-    pages::Add_Caption(u"Until"_s, Left + Indent, row + 40 + LabelInRow, &page);
-    Text13 = Add_TimeField(u"Until"_s, Left + FieldsLeft, row + 40);
-    Add_Button(Condition::Every, row + 39, u"Every"_s);
+    pages::Add_Caption(u"Until"_s, Left + Indent, row + 42 + LabelInRow, &page);
+    Text13 = Add_TimeField(u"Until"_s, Left + FieldsLeft, row + 42);
+    Add_Button(Condition::Every, row + 41, u"Every"_s);
 }
 
 ConditionFields HourPage::View::Read_Fields() const {

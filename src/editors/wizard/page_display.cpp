@@ -6,6 +6,8 @@
 
 #include <QLabel>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace page_parts;
 
@@ -14,8 +16,8 @@ namespace {
 constexpr int FirstTop = 18;
 constexpr int Pitch = 36;
 constexpr int TextLeft = 58;
-constexpr int CheckTop = 124;
-constexpr int SampleTop = 146;
+constexpr int TextBelow = 18;   // its option
+constexpr int SampleBelow = 22; // the box above it
 
 struct ModeText {
     QString Caption;
@@ -34,24 +36,28 @@ const std::array<ModeText, 3> modeTexts{{
 WizardDisplayPage::WizardDisplayPage(WizardState& wizardState, QWidget* parent)
     : WizardPageView(wizardState, 43, parent) {
     Add_Text(this, u"Select the display mode:"_s, 0, 0, 0, TextLook::Heading);
+    int top = FirstTop;
     for (int i = 0; i < 3; ++i)
-        Add_Mode(i);
+        top += Add_Mode(i, top);
     Check4 = Add_Check(this, u"Check4"_s, u"Minimize running applications"_s, TextLeft + 18,
-                       CheckTop, [this](bool on) { state.Check4 = on; });
-    samplePicture = new SamplePicture({0, SampleTop, Width, Height - SampleTop}, this);
+                       top - 2, [this](bool on) { state.Check4 = on; });
+    const int sampleTop = Check4->y() + SampleBelow;
+    samplePicture = new SamplePicture({0, sampleTop, Width, Height - sampleTop}, this);
     Option3[static_cast<std::size_t>(state.Option3)]->setChecked(true);
     Show_State();
 }
 
-void WizardDisplayPage::Add_Mode(int index) {
+// Returns how much room it takes.
+int WizardDisplayPage::Add_Mode(int index, int top) {
     const auto at = static_cast<std::size_t>(index);
-    const int top = FirstTop + index * Pitch;
     const auto mode = static_cast<ReminderType>(index);
     QRadioButton* option =
         Add_Option(this, u"Option3_%1"_s.arg(index), modeTexts[at].Caption, TextLeft, top);
     option->setAccessibleDescription(modeTexts[at].Text);
     new ClickFilter(new ModePicture(mode, {0, top}, this), option);
-    new ClickFilter(Add_Text(this, modeTexts[at].Text, TextLeft + 18, top + 18), option);
+    const int textLeft = TextLeft + 18;
+    QLabel* text = Add_Text(this, modeTexts[at].Text, textLeft, top + TextBelow, Width - textLeft);
+    new ClickFilter(text, option);
     connect(option, &QRadioButton::toggled, this, [this, mode](bool on) {
         if (!on)
             return;
@@ -59,6 +65,7 @@ void WizardDisplayPage::Add_Mode(int index) {
         Show_State();
     });
     Option3[at] = option;
+    return std::max(Pitch, TextBelow + text->height() + 3);
 }
 
 void WizardDisplayPage::Show_State() {

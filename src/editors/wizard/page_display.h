@@ -15,7 +15,7 @@ public:
     QWidget* First_Field() const override;
 
 private:
-    void Add_Mode(int index);
+    int Add_Mode(int index, int top);
 
     std::array<QRadioButton*, 3> Option3{};
     ChkBox* Check4 = nullptr;

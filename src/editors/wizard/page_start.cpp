@@ -49,7 +49,8 @@ void WizardStartPage::Build_Choices() {
         const int top = i == 0 ? 24 : StartOnTop;
         Option1[at] = Add_Option(this, u"Option1_%1"_s.arg(i), captions[at], 8, top);
         Option1[at]->setAccessibleDescription(texts[at]);
-        new ClickFilter(Add_Text(this, texts[at], TextLeft, top + 2), Option1[at]);
+        new ClickFilter(Add_Text(this, texts[at], TextLeft, top + 2, Width - TextLeft),
+                        Option1[at]);
         connect(Option1[at], &QRadioButton::toggled, this, [this, i](bool on) {
             if (on)
                 Choose(static_cast<StartChoice>(i));

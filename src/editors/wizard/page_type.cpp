@@ -4,14 +4,18 @@
 
 #include <QLabel>
 
+#include <algorithm>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 using namespace page_parts;
 
 namespace {
 
 constexpr int FirstTop = 20;
-constexpr int Pitch = 33;
+constexpr int MostGap = 5; // between two types
 constexpr int TextLeft = 112;
+constexpr int TextRightOf = 4; // the options, which a wide face makes longer
 
 struct TypeText {
     QString Caption;
@@ -35,26 +39,49 @@ const std::array<TypeText, WizardTypeCount> typeTexts{{
 WizardTypePage::WizardTypePage(WizardState& wizardState, QWidget* parent)
     : WizardPageView(wizardState, 40, parent) {
     Add_Text(this, u"Select the reminder type:"_s, 0, 0, 0, TextLook::Heading);
+    int textLeft = TextLeft;
     for (int i = 0; i < WizardTypeCount; ++i)
-        Add_Type(i);
+        textLeft = std::max(textLeft, Add_Type(i)->geometry().right() + TextRightOf);
+    Lay_Out(textLeft);
     Option2[static_cast<std::size_t>(state.Option2)]->setChecked(true);
 }
 
-void WizardTypePage::Add_Type(int index) {
+QRadioButton* WizardTypePage::Add_Type(int index) {
     const auto at = static_cast<std::size_t>(index);
     const TypeText& text = typeTexts[at];
-    const int top = FirstTop + index * Pitch;
-    QRadioButton* option = Add_Option(this, u"Option2_%1"_s.arg(index), text.Caption, 8, top);
+    QRadioButton* option = Add_Option(this, u"Option2_%1"_s.arg(index), text.Caption, 8, FirstTop);
     option->setAccessibleDescription(text.Text + u' ' + text.Example);
-    new ClickFilter(Add_Text(this, text.Text, TextLeft, top + 2), option);
-    if (!text.Example.isEmpty())
-        new ClickFilter(Add_Text(this, text.Example, TextLeft, top + 16, 0, TextLook::Hint),
-                        option);
     connect(option, &QRadioButton::toggled, this, [this, index](bool on) {
         if (on)
             state.Option2 = static_cast<WizardType>(index);
     });
-    Option2[at] = option;
+    return Option2[at] = option;
+}
+
+// One type below the other, each as high as its text and its example.
+void WizardTypePage::Lay_Out(int textLeft) {
+    std::array<std::vector<QLabel*>, WizardTypeCount> lines;
+    int height = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        lines[i] = {Add_Text(this, typeTexts[i].Text, textLeft, 0, Width - textLeft)};
+        if (!typeTexts[i].Example.isEmpty())
+            lines[i].push_back(Add_Text(this, typeTexts[i].Example, textLeft, 0, Width - textLeft,
+                                        TextLook::Hint));
+        for (const QLabel* line : lines[i])
+            height += line->height();
+    }
+    const int gap = std::clamp((Height - FirstTop - height) / WizardTypeCount, 1, MostGap);
+    int top = FirstTop;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        Option2[i]->move(Option2[i]->x(), top);
+        int below = top + 2;
+        for (QLabel* line : lines[i]) {
+            line->move(textLeft, below);
+            below += line->height();
+            new ClickFilter(line, Option2[i]);
+        }
+        top = std::max(below, Option2[i]->geometry().bottom() + 1) + gap;
+    }
 }
 
 QWidget* WizardTypePage::First_Field() const {

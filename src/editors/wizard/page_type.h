@@ -12,7 +12,8 @@ public:
     QWidget* First_Field() const override;
 
 private:
-    void Add_Type(int index);
+    QRadioButton* Add_Type(int index);
+    void Lay_Out(int textLeft);
 
     std::array<QRadioButton*, WizardTypeCount> Option2{};
 };

@@ -15,6 +15,8 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace page_parts;
 
@@ -59,13 +61,14 @@ void frmQuickAddReminder::Build_Message() {
     Combo1->setToolTip(u"Select a category, or type the name of a new one"_s);
     Add_Text(this, u"(Optional)"_s, FieldLeft + 188, 149, 0, TextLook::Hint);
     new TooltipPicture(50, HelpLeft, 148, this);
-    Add_Text(this, u"Display Mode:"_s, Margin, 180);
+    const QLabel* display = Add_Text(this, u"Display Mode:"_s, Margin, 180);
     const std::array<QString, 3> modes{u"Normal"_s, u"Important"_s, u"Very Important"_s};
     const std::array<QString, 3> tips{u"Inside the toolbar"_s, u"On a window next to the toolbar"_s,
                                       u"On a window at the center of the screen"_s};
-    const std::array<int, 3> lefts{90, 158, 236};
+    int left = std::max(90, display->geometry().right() + 4);
     for (std::size_t i = 0; i < modes.size(); ++i) {
-        Option1[i] = Add_Option(this, u"Option1_%1"_s.arg(i), modes[i], lefts[i], 177);
+        Option1[i] = Add_Option(this, u"Option1_%1"_s.arg(i), modes[i], left, 177);
+        left = Option1[i]->geometry().right() + 4;
         Option1[i]->setToolTip(tips[i]);
     }
     Option1[static_cast<std::size_t>(first.DisplayMode)]->setChecked(true);

@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using palette::To_Color;
 
@@ -67,8 +69,9 @@ void SamplePicture::Paint_Toolbar(QPainter& painter) const {
 }
 
 void SamplePicture::Paint_Window(QPainter& painter) const {
-    const QRect window((width() - WindowWidth) / 2, (height() - WindowHeight) / 2, WindowWidth,
-                       WindowHeight);
+    const int windowHeight = std::min(WindowHeight, height());
+    const QRect window((width() - WindowWidth) / 2, (height() - windowHeight) / 2, WindowWidth,
+                       windowHeight);
     Paint_Box(painter, window, palette::ReminderWindow_Outline_Back, palette::Outline);
     const QRect note = window.adjusted(4, 4, -4, -23);
     Paint_Box(painter, note, palette::ReminderWindow_Text_Back, palette::Outline);

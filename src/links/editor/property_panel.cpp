@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -42,11 +44,13 @@ PropertyPanel::PropertyPanel(QWidget* parent) : QWidget(parent) {
     wbButton1->setGeometry(PanelWidth - ButtonWidth, 50 + FieldBelow, ButtonWidth, FieldHeight);
     hint = new QLabel(u"Can be a path to a local file (document) or a Url"_s, this);
     hint->setFont(Small_Font());
-    hint->setGeometry(0, 92, PanelWidth, SmallLineHeight + 2);
+    hint->setWordWrap(true);
+    hint->setGeometry(0, 92, PanelWidth, hint->heightForWidth(PanelWidth));
+    const int below = std::max(hint->geometry().bottom() + 4, 116);
     descriptionField =
-        Add_Field(u"Description:"_s, 116, PanelWidth, TipDescription, Before::Nothing);
-    Add_Sizes(166);
-    resize(PanelWidth, 208);
+        Add_Field(u"Description:"_s, below, PanelWidth, TipDescription, Before::Nothing);
+    Add_Sizes(below + 50);
+    resize(PanelWidth, below + 92);
     connect(wbButton1, &wbButton::Click, this, &PropertyPanel::Browse);
     Show_Row(nullptr);
 }
