@@ -89,7 +89,8 @@ public:
             return std::nullopt;
         }
         QFileDialog box(nullptr, title, folder);
-        box.setOption(QFileDialog::HideNameFilterDetails);
+        // Choosing a file neither renames nor deletes one.
+        box.setOptions(QFileDialog::HideNameFilterDetails | QFileDialog::ReadOnly);
         box.setNameFilters(Toolkit_Filters(filter));
         box.setAcceptMode(QFileDialog::AcceptOpen);
         box.setFileMode(QFileDialog::AnyFile); // the caller may complete a typed name

@@ -13,23 +13,26 @@ class Day : public Driven {
 protected:
     // Through all eight pages, with one hour: 06:00.
     void Make_By_Mouse(int type, const QString& message) const {
-        const QString window = Open(Wizard, 118);
-        const auto next = [&] { Click(window, 426, 361); };
-        Click(window, 44, 142 + 33 * type);
+        const char* types[] = {
+            "Exact date:", "Every day:", "Weekday:", "Every month:", "Every X days:", "Birthday:"};
+        const auto next = [&] { Click(Wizard, {"push button", "Next >"}); };
+        Open(Wizard, "Add new reminder");
+        Click(Wizard, {"radio button", types[type]});
         next();
         if (type == 2)
-            Click(window, 44, 144); // Monday
+            Click(Wizard, {"check box", "Monday"});
         if (type == 3)
-            Click(window, 97, 227); // the 31st
+            Click(Wizard, {"check box", "31th"});
         if (type == 4)
             Retype(u"3"_s);
         next();
-        Click(window, 44, 191);
+        Click(Wizard, {"check box", "At time 1"});
         next();
         next();
         Type(message);
-        for (int page = 0; page < 4; ++page)
+        for (int page = 0; page < 3; ++page)
             next();
+        Click(Wizard, {"push button", "Finish"});
         Wait_Until_Gone(Wizard);
     }
     void Make_By_Keyboard(int type, const QString& message) const {
@@ -46,13 +49,6 @@ protected:
         Type(message);
         Keys({u"Tab"_s, u"Tab"_s, u"Return"_s, u"Return"_s, u"Return"_s, u"Return"_s});
         Wait_Until_Gone(Wizard);
-    }
-    // A later launch gives the strip the keyboard.
-    void Go_To_Strip() const {
-        Tockly second(desktop, Home());
-        second.Start();
-        EXPECT_EQ(second.Wait_For_End(), 0);
-        Wait_For_Focus(Strip);
     }
     std::vector<SavedReminder> Saved() const { return Saved_Reminders(File_Bytes(Reminders())); }
 
@@ -77,13 +73,11 @@ protected:
         EXPECT_EQ(made[5].month, today.month());
     }
 
-    static constexpr int CardPitch = 73;
-    void Select(const QString& list, int card) const { Click(list, 100, 73 + CardPitch * card); }
+    void Select(const QString& card) const { Click(List, {"list item", card.toUtf8()}); }
+    void Show_Page(const char* tab) const { Click(List, {"page tab", tab}); }
 };
 
 TEST_F(Day, One_Of_Each_Type_By_Mouse_Then_Edited_Copied_And_Disabled_For_Today) {
-    // Pages of the list window by the middle of their tabs.
-    constexpr int Dates = 359, Hours = 433, Message = 502, Misc = 600, Tabs = 20;
     {
         Tockly tockly(desktop, Home());
         Write_File(Reminders(), Reminder_File({}));
@@ -99,49 +93,47 @@ TEST_F(Day, One_Of_Each_Type_By_Mouse_Then_Edited_Copied_And_Disabled_For_Today)
         Tockly tockly(desktop, Home());
         tockly.Start();
         ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-        const QString list = Open(List, 138);
-        Select(list, 0);
-        Click(list, 578, 239); // every year
-        Select(list, 1);       // of every day: good once it was saved
-        Select(list, 2);
-        Click(list, 348, 140); // Tuesday
-        Click(list, 348, 240); // Sunday, which is lost
-        Select(list, 3);
-        Click(list, 425, 323);
+        Open(List, "View reminders");
+        Select(u"Type 0"_s);
+        Click(List, {"check box", "Exact date: Every year"});
+        Select(u"Type 1"_s); // of every day: good once it was saved
+        Select(u"Type 2"_s);
+        Click(List, {"check box", "Each: Tuesday"});
+        Click(List, {"check box", "Each: Sunday"}); // which is lost
+        Select(u"Type 3"_s);
+        Click(List, {"text", "Day of month"});
         Retype(u"5th"_s);
-        Select(list, 4);
-        Click(list, Hours, Tabs);
-        Click(list, 712, 367); // at 20:30
-        Select(list, 5);
-        Click(list, Misc, Tabs);
-        Click(list, 480, 51);
+        Select(u"Type 4"_s);
+        Show_Page("Hours Setup");
+        Click(List, {"push button", "Add to list: At"});
+        Select(u"Type 5"_s);
+        Show_Page("Misc");
+        Click(List, {"combo box", "Category:"});
         Retype(u"my things"_s);
-        Select(list, 4);
-        Select(list, 5);
-        Click(list, 548, 226); // Home
-        Click(list, 527, 344); // for the category
+        Select(u"Type 4"_s);
+        Select(u"Type 5"_s);
+        Click(List, {"check box", "Home"});
+        Click(List, {"push button", "Use this icon for the selected category"});
         Agree(Box);
-        Select(list, 4);
-        Click(list, 480, 51);
+        Select(u"Type 4"_s);
+        Click(List, {"combo box", "Category:"});
         Retype(u"short lived"_s);
-        Select(list, 3);
-        Select(list, 4);
-        Click(list, 658, 51); // delete the category
+        Select(u"Type 3"_s);
+        Select(u"Type 4"_s);
+        Click(List, {"push button", "Delete category"});
         Agree(Box);
-        Select(list, 0);
-        Click(list, 66, 573);  // copy
-        Click(list, 170, 573); // paste
-        Click(list, Message, Tabs);
-        Click(list, 560, 51);
+        Select(u"Type 0"_s);
+        Click(List, {"push button", "Copy"});
+        Click(List, {"push button", "Paste"});
+        Show_Page("Message");
+        Click(List, {"text", "Title"});
         Retype(u"First"_s);
-        Click(list, 264, 543); // run: a window beside the toolbar
-        ASSERT_TRUE(desktop.Wait_For_Window(u"Reminder"_s));
-        const int windows = Windows_OfProgram();
-        Click(desktop.Visible_Windows(u"Reminder"_s).first(), 190, 64); // its options
-        ASSERT_TRUE(Wait_Until([&] { return A_Menu_Is_Open(windows); }));
+        Click(List, {"push button", "Run"});
+        Click(u"Reminder"_s, {"push button", "Options"});
+        ASSERT_TRUE(A_Menu_Opens_Beside(3)); // strip, list and the window
         Keys({u"Down"_s, u"Down"_s, u"Return"_s});
         Wait_Until_Gone(u"Reminder"_s);
-        Click(list, Dates, Tabs);
+        Show_Page("Date Setup");
         tockly.Signal(SIGTERM);
         ASSERT_EQ(tockly.Wait_For_End(), 0);
     }
@@ -168,11 +160,13 @@ TEST_F(Day, The_Same_Without_A_Mouse) {
     Write_File(Reminders(), Reminder_File({}));
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    Go_To_Strip();
+    Launch_Again();
+    Wait_For_Focus(Strip);
     Keys({u"Tab"_s});
     for (int type = 0; type < 6; ++type) {
         Make_By_Keyboard(type, u"Type %1"_s.arg(type));
-        Go_To_Strip();
+        Launch_Again();
+        Wait_For_Focus(Strip);
     }
     Keys({u"Tab"_s, u"space"_s});
     Wait_For_Focus(List);

@@ -1,16 +1,61 @@
 // Windows driven by mouse and keyboard, as a person does.
 #pragma once
 
+#include "desktop/accessible.h"
 #include "desktop/program_fixture.h"
+
+// What a screen reader says of a control.
+struct Named {
+    const char* role;
+    QByteArray name;
+};
+
+inline const Named CloseButton{"push button", "Minimize/Hide/Close (Right-click for more options)"};
+inline const Named MessageLine{"filler", "Message line"};
 
 // Mouse and keyboard on the program's windows.
 class Driven : public Program {
 protected:
-    QStringList At(int x, int y) const { return {QString::number(x), QString::number(y)}; }
-    void Click(const QString& window, int x, int y, const QString& button = u"1"_s) const {
-        desktop.XDo(QStringList{u"mousemove"_s, u"--window"_s, window} + At(x, y) +
-                    QStringList{u"click"_s, button});
+    // Waits until the control is there and stands still.
+    Control Find(const QString& window, const Named& wanted) const {
+        Control found;
+        const bool there = Wait_Until([&] {
+            const QRect before = found.place;
+            found = {};
+            for (const Control& control : desktop.Controls(window)) {
+                if (control.role == QLatin1String(wanted.role) &&
+                    control.name == QString::fromUtf8(wanted.name)) {
+                    found = control;
+                    break;
+                }
+            }
+            return !found.role.isEmpty() && found.place == before;
+        });
+        EXPECT_TRUE(there) << "no " << wanted.role << " \"" << wanted.name.data() << "\" among\n"
+                           << qPrintable(desktop.Spoken(window));
+        return found;
     }
+    // Near its left end, where a check box has its box.
+    QPoint Place(const QString& window, const Named& wanted) const {
+        const QRect place = Find(window, wanted).place;
+        return {place.left() + std::min(place.width() / 2, 12), place.center().y()};
+    }
+    static QStringList Move_To(const QPoint& place) {
+        return {u"mousemove"_s, QString::number(place.x()), QString::number(place.y())};
+    }
+    void Click(const QPoint& place, const QString& button = u"1"_s) const {
+        desktop.XDo(Move_To(place) + QStringList{u"click"_s, button});
+    }
+    void Click(const QString& window, const Named& wanted, const QString& button = u"1"_s) const {
+        Click(Place(window, wanted), button);
+    }
+    // With a step on the way, as a hand does it.
+    void Drag(const QPoint& from, const QPoint& to) const {
+        desktop.XDo(Move_To(from) + QStringList{u"mousedown"_s, u"1"_s} + Move_To((from + to) / 2) +
+                    Move_To(to) + QStringList{u"mouseup"_s, u"1"_s});
+    }
+    // Text stands on the message line once more than its background and frame are to be seen.
+    bool Line_Has_Text() const { return desktop.Colours(Find(Strip, MessageLine).place) > 1; }
     void Keys(const QStringList& keys) const { desktop.XDo(QStringList{u"key"_s} + keys); }
     void Type(const QString& text) const { desktop.XDo({u"type"_s, text}); }
     // Instead of what stands in the field.
@@ -18,9 +63,9 @@ protected:
         Keys({u"ctrl+a"_s});
         Type(text);
     }
-    QString Open(const QString& title, int button) const {
-        Click(Strip_Window(), button, 10);
-        return Wait_For_Focus(title);
+    void Open(const QString& title, const char* button) const {
+        Click(Strip, {"push button", button});
+        Wait_For_Focus(title);
     }
     // The window once it has the keyboard.
     QString Wait_For_Focus(const QString& title) const {
@@ -31,11 +76,19 @@ protected:
         })) << qPrintable(title);
         return window;
     }
+    // A later launch gives the strip the keyboard.
+    void Launch_Again() const {
+        Tockly second(desktop, Home());
+        second.Start();
+        EXPECT_EQ(second.Wait_For_End(), 0);
+    }
     void Wait_Until_Gone(const QString& title) const {
         EXPECT_TRUE(Wait_Until([&] { return Count(title) == 0; })) << qPrintable(title);
     }
-    // A popup menu, beside the program's other windows without such a title.
-    bool A_Menu_Is_Open(int before) const { return Windows_OfProgram() > before; }
+    // The toolkit's popup menus are told to screen readers row by row alone.
+    bool A_Menu_Opens_Beside(int windows) const {
+        return Wait_Until([&] { return Windows_OfProgram() > windows; });
+    }
     int Windows_OfProgram() const {
         return static_cast<int>(desktop.Search({u"--class"_s, u"^tockly$"_s}).size());
     }

@@ -17,39 +17,33 @@ protected:
         return Wait_Until([&] { return desktop.Geometry(Strip_Window()) == place; });
     }
     void Through_The_Wizard() const {
-        const QString window = Wait_For_Focus(SetupTitle);
-        const auto next = [&] { Click(window, 430, 300); };
+        Wait_For_Focus(SetupTitle);
+        const auto next = [&] { Click(SetupTitle, {"push button", "Next >"}); };
         next();
-        Click(window, 157, 203); // shrink
-        Click(window, 440, 261); // and the test of it
+        Click(SetupTitle, {"radio button", "Shrink:"});
+        Click(SetupTitle, {"push button", "Test"});
         EXPECT_TRUE(Wait_Until([&] { return desktop.Geometry(Strip_Window()).height() < 20; }));
         EXPECT_TRUE(Strip_Stands({345, 0, 333, 20}));
         next();
-        Click(window, 157, 129);
+        Click(SetupTitle, {"radio button", "Top-right"});
         EXPECT_TRUE(Strip_Stands({TopRight, 0, 333, 20})) << "it moves while one looks";
         next();
-        Click(window, 200, 80);
+        Click(SetupTitle, {"text", "Please insert the date format used to display dates:"});
         Retype(u"dd.mm.yyyy"_s);
         next();
-        Click(window, 157, 55); // load at start up
+        Click(SetupTitle, {"check box", "Load Tockly on startup"});
         next();
-        next();
+        Click(SetupTitle, {"push button", "Finish"});
         Wait_Until_Gone(SetupTitle);
     }
     // A row of the program's own menu.
-    QString Choose_OwnLink(int y, const QString& title) const {
+    void Choose_OwnLink(const char* row, const QString& title) const {
         // The menu before has faded out.
         EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 1; }));
-        Click(Strip_Window(), 50, 10);
-        EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 2; }));
-        desktop.XDo(QStringList{u"mousemove"_s} + At(TopRight + 40, 80) +
-                    QStringList{u"mousemove"_s} + At(TopRight + 40, 82) +
-                    QStringList{u"click"_s, u"1"_s});
-        EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 3; }));
-        desktop.XDo(QStringList{u"mousemove"_s} + At(TopRight + 150, y) +
-                    QStringList{u"mousemove"_s} + At(TopRight + 150, y + 1) +
-                    QStringList{u"click"_s, u"1"_s});
-        return Wait_For_Focus(title);
+        Click(Strip, {"push button", "My Links"});
+        Click(u"My Links"_s, {"menu item", "Tockly"});
+        Click(u"Tockly"_s, {"menu item", row});
+        Wait_For_Focus(title);
     }
     void Leave(const QString& title) const {
         Wait_For_Focus(title);
@@ -65,33 +59,43 @@ TEST_F(FirstStart, Everything_Leads_Somewhere_And_Is_Found_Again) {
         Tockly tockly(desktop, Home());
         tockly.Start();
         ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        EXPECT_TRUE(Strip_Stands({345, 0, 333, 20}));
+        const QString state = desktop.Property(Strip_Window(), u"_NET_WM_STATE"_s);
+        for (const QString& wanted : {u"_NET_WM_STATE_ABOVE"_s, u"_NET_WM_STATE_SKIP_TASKBAR"_s,
+                                      u"_NET_WM_STATE_SKIP_PAGER"_s}) {
+            EXPECT_TRUE(state.contains(wanted)) << qPrintable(state);
+        }
+        EXPECT_EQ(
+            desktop.Property(Strip_Window(), u"_NET_FRAME_EXTENTS"_s).section(u'=', 1).remove(u' '),
+            u"0,0,0,0"_s);
+        EXPECT_TRUE(Wait_Until([&] { return Line_Has_Text(); }, 5000)) << "no greeting";
         Through_The_Wizard();
-        Open(u"Add new reminder"_s, 118);
+        Open(u"Add new reminder"_s, "Add new reminder");
         Keys({u"Escape"_s});
         Agree(Box); // to quit the wizard
-        Open(u"Reminders"_s, 138);
+        Open(u"Reminders"_s, "View reminders");
         Leave(u"Reminders"_s);
-        Open(u"Notes"_s, 160);
+        Open(u"Notes"_s, "View notes");
         Leave(u"Notes"_s);
-        Open(u"Textbox"_s, 182);
-        Click(Strip_Window(), 182, 10);
+        Open(u"Textbox"_s, "Open Textbox");
+        Click(Strip, {"push button", "Open Textbox"});
         Wait_Until_Gone(u"Textbox"_s);
-        const std::pair<int, QString> links[] = {
-            {108, u"Help"_s},
-            {156, u"About..."_s},
-            {204, u"Reminders"_s},
-            {228, u"Notes"_s},
-            {252, u"'My Links' menu setup"_s},
-            {300, u"Setup"_s},
-            {324, SetupTitle},
+        const std::pair<const char*, QString> links[] = {
+            {"View Help", u"Help"_s},
+            {"About Tockly", u"About..."_s},
+            {"View Reminders", u"Reminders"_s},
+            {"View Notes", u"Notes"_s},
+            {"'My Links' menu setup", u"'My Links' menu setup"_s},
+            {"Program Setup", u"Setup"_s},
+            {"Setup wizard", SetupTitle},
         };
-        for (const auto& [y, title] : links) {
-            SCOPED_TRACE(qPrintable(title));
-            Choose_OwnLink(y, title);
+        for (const auto& [row, title] : links) {
+            SCOPED_TRACE(row);
+            Choose_OwnLink(row, title);
             Leave(title);
         }
         EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 1; }));
-        tockly.Signal(SIGTERM);
+        tockly.Signal(SIGINT);
         ASSERT_EQ(tockly.Wait_For_End(), 0);
     }
     const auto names = [](const QString& path) {
@@ -109,6 +113,10 @@ TEST_F(FirstStart, Everything_Leads_Somewhere_And_Is_Found_Again) {
     EXPECT_EQ(names(Home() + "/config/autostart"_L1), "tockly.desktop");
     const QString user = u"HKEY_CURRENT_USER.reg"_s;
     EXPECT_EQ(Registry_Value(Home(), user, u"First Time"_s), u"dword:00000000"_s);
+    EXPECT_EQ(Registry_Value(Home(), user, u"Global_CurID"_s), u"dword:00000001"_s);
+    EXPECT_EQ(Registry_Value(Home(), user, u"Global_Config_MainForm_Width"_s), u"dword:00001383"_s);
+    EXPECT_EQ(Registry_Value(Home(), u"HKEY_LOCAL_MACHINE.reg"_s, u"Global_MaxAccountID"_s),
+              u"dword:00000002"_s);
     EXPECT_EQ(Registry_Value(Home(), user, u"Global_Autohide_SelectedHideMode"_s),
               u"dword:ffffffff"_s);
     EXPECT_EQ(Registry_Value(Home(), user, u"DateFormat"_s),
@@ -119,7 +127,7 @@ TEST_F(FirstStart, Everything_Leads_Somewhere_And_Is_Found_Again) {
     again.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
     EXPECT_TRUE(Strip_Stands({TopRight, 0, 333, 20}));
-    Open(u"Notes"_s, 160);
+    Open(u"Notes"_s, "View notes");
     EXPECT_EQ(Count(SetupTitle), 0) << "the wizard came twice";
 }
 

@@ -1,5 +1,5 @@
 // The toolbar out of the way and back, on a real X desktop.
-#include "desktop/program_fixture.h"
+#include "desktop/driven.h"
 #include "desktop/records.h"
 
 #include <csignal>
@@ -7,62 +7,66 @@
 namespace {
 
 const QString User_Values = u"HKEY_CURRENT_USER.reg"_s;
+constexpr QPoint Away(512, 500);
 const QRect Full((1024 - 333) / 2, 0, 333, 20);
 
-class Hiding : public Program {
+class Hiding : public Driven {
 protected:
     void SetUp() override {
         Program::SetUp();
         ASSERT_TRUE(Write_File(Reminders(), Reminder_File({})));
-        desktop.XDo({u"mousemove"_s, u"512"_s, u"500"_s});
+        desktop.XDo(Move_To(Away));
     }
     bool Stands_At(const QRect& place) const {
         return Wait_Until([&] { return desktop.Geometry(Strip_Window()) == place; }, 8000);
     }
-    // keys: held while the close button is clicked.
-    void Click_Close(const QString& key = {}) {
-        QStringList steps{u"mousemove"_s, QString::number(Full.right() - 8), u"6"_s};
-        if (!key.isEmpty()) {
-            steps += {u"keydown"_s, key};
-        }
-        steps += {u"click"_s, u"1"_s};
-        if (!key.isEmpty()) {
-            steps += {u"keyup"_s, key};
-        }
-        desktop.XDo(steps + QStringList{u"mousemove"_s, u"512"_s, u"500"_s});
+    void Start_Program(Tockly& tockly) {
+        tockly.Start();
+        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        closeButton = Place(Strip, CloseButton);
     }
+    // key: held while the close button is clicked, wherever the strip is by then.
+    void Click_Close(const QString& key = {}) {
+        if (!key.isEmpty()) {
+            desktop.XDo({u"keydown"_s, key});
+        }
+        Click(closeButton);
+        if (!key.isEmpty()) {
+            desktop.XDo({u"keyup"_s, key});
+        }
+        desktop.XDo(Move_To(Away));
+    }
+    void Click_Rest() const { Click(Strip, {"push button", "Click here to show the toolbar"}); }
     // Without a tray the strip collapses instead: as long as the panel has not brought its tray up.
     bool Hide_Completely() {
         return Wait_Until([&] {
             Click_Close(u"shift"_s);
-            if (Wait_Until([&] { return Count(Strip) == 0; }, 1500)) {
-                return true;
+            Wait_Until([&] { return Count(Strip) == 0 || Is_Collapsed(); }, 8000);
+            if (!Is_Collapsed()) {
+                return Count(Strip) == 0;
             }
-            desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+            Click_Rest();
             Stands_At(Full);
             return false;
         });
     }
-    void Launch_Again() {
-        Tockly second(desktop, Home());
-        second.Start();
-        EXPECT_EQ(second.Wait_For_End(), 0);
-    }
+    bool Is_Collapsed() const { return desktop.Geometry(Strip_Window()).height() == 8; }
     void Expect_States() {
         const QString state = desktop.Property(Strip_Window(), u"_NET_WM_STATE"_s);
         EXPECT_TRUE(state.contains(u"_ABOVE"_s) && state.contains(u"_SKIP_TASKBAR"_s) &&
                     state.contains(u"_SKIP_PAGER"_s))
             << qPrintable(state);
     }
+
+    QPoint closeButton;
 };
 
 TEST_F(Hiding, A_Click_Collapses_It_And_A_Click_On_The_Rest_Brings_It_Back) {
     Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Start_Program(tockly);
     Click_Close();
     EXPECT_TRUE(Stands_At({Full.x(), 0, 333, 8}));
-    desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+    Click_Rest();
     EXPECT_TRUE(Stands_At(Full));
     Expect_States();
 }
@@ -70,8 +74,7 @@ TEST_F(Hiding, A_Click_Collapses_It_And_A_Click_On_The_Rest_Brings_It_Back) {
 TEST_F(Hiding, Hidden_In_The_Tray_A_Second_Launch_Brings_It_Back_And_The_End_Keeps_Its_Place) {
     {
         Tockly tockly(desktop, Home());
-        tockly.Start();
-        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        Start_Program(tockly);
         for (int round = 0; round < 2; ++round) {
             ASSERT_TRUE(Hide_Completely());
             Launch_Again();
@@ -98,12 +101,11 @@ TEST_F(Hiding, It_Hides_By_Itself_When_The_Mouse_Has_Left_It) {
                            "\"First Time\"=dword:00000000\r\n"
                            "\"Global_CurID\"=dword:00000001\r\n"));
     Tockly tockly(desktop, Home());
-    desktop.XDo({u"mousemove"_s, u"600"_s, u"10"_s});
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Start_Program(tockly);
+    desktop.XDo(Move_To(Place(Strip, MessageLine)));
     EXPECT_FALSE(Wait_Until([&] { return desktop.Geometry(Strip_Window()).height() < 20; }, 4500))
         << "the mouse rests on it";
-    desktop.XDo({u"mousemove"_s, u"600"_s, u"300"_s});
+    desktop.XDo(Move_To(Away));
     EXPECT_TRUE(Stands_At({Full.x(), 0, 333, 8}));
 }
 
@@ -111,8 +113,7 @@ TEST_F(Hiding, The_End_In_A_Collapse_Or_A_Fade_Keeps_The_Whole_Toolbar) {
     for (const QString& key : {u""_s, u"shift"_s}) {
         SCOPED_TRACE(qPrintable(key));
         Tockly tockly(desktop, Home());
-        tockly.Start();
-        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        Start_Program(tockly);
         const QString before = desktop.Property(Strip_Window(), u"_NET_WM_WINDOW_OPACITY"_s);
         Click_Close(key);
         EXPECT_TRUE(Wait_Until([&] {
@@ -129,8 +130,7 @@ TEST_F(Hiding, The_End_In_A_Collapse_Or_A_Fade_Keeps_The_Whole_Toolbar) {
 
 TEST_F(Hiding, A_Storm_Of_Clicks_Leaves_A_Toolbar_That_Answers) {
     Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Start_Program(tockly);
     for (int i = 0; i < 12; ++i) {
         Click_Close(i % 3 == 0 ? u"shift"_s : QString());
         if (i % 4 == 3) {
@@ -139,8 +139,8 @@ TEST_F(Hiding, A_Storm_Of_Clicks_Leaves_A_Toolbar_That_Answers) {
     }
     EXPECT_TRUE(Wait_Until([&] {
         Launch_Again();
-        if (desktop.Geometry(Strip_Window()).height() == 8) {
-            desktop.XDo({u"mousemove"_s, u"500"_s, u"4"_s, u"click"_s, u"1"_s});
+        if (Is_Collapsed()) {
+            Click_Rest();
         }
         return desktop.Geometry(Strip_Window()) == Full;
     }));

@@ -9,8 +9,9 @@ namespace {
 QByteArray Links_File(const QList<QByteArray>& urls) {
     QByteArray bytes = "LinksSaveFile001";
     Put(bytes, urls.size() - 1, 4);
-    for (const QByteArray& url : urls) {
-        for (const QByteArray& text : {url, QByteArray("Row"), QByteArray()}) {
+    for (int level = 0; level < urls.size(); ++level) {
+        const QByteArray& url = urls[level];
+        for (const QByteArray& text : {url, "Row " + QByteArray::number(level), QByteArray()}) {
             Put(bytes, text.size(), 2);
             bytes += text;
         }
@@ -28,28 +29,11 @@ protected:
                 menus.append(window);
         return menus;
     }
-    void Move_To(const QPoint& place) const {
-        desktop.XDo(QStringList{u"mousemove"_s} + At(place.x() - 1, place.y()) +
-                    QStringList{u"mousemove"_s} + At(place.x(), place.y()));
+    // A row sees the mouse that moves over it.
+    void Rest_At(const QPoint& place) const {
+        desktop.XDo(Move_To(place - QPoint(1, 0)) + Move_To(place));
     }
-    // The one that came; its place.
-    QRect Wait_For_Another(const QStringList& before) const {
-        QRect place;
-        EXPECT_TRUE(Wait_Until([&] {
-            for (const QString& window : Menus()) {
-                if (!before.contains(window)) {
-                    place = desktop.Geometry(window);
-                    return place.width() > 1;
-                }
-            }
-            return false;
-        }));
-        return place;
-    }
-
     QString strip;
-    // The first row of a level with a header.
-    static constexpr QPoint FirstRow{40, 38};
 };
 
 TEST_F(Links, Five_Levels_Open_Close_Behind_The_Mouse_And_Keep_The_Toolbar_From_Hiding) {
@@ -66,25 +50,24 @@ TEST_F(Links, Five_Levels_Open_Close_Behind_The_Mouse_And_Keep_The_Toolbar_From_
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
     strip = Strip_Window();
-    Click(strip, 50, 10);
-    QRect level = Wait_For_Another({});
-    EXPECT_EQ(level.topLeft(), QPoint(345, 20));
-    const QPoint rootHeader = level.topLeft() + QPoint(40, 10); // opens nothing again
-    for (int depth = 1; depth < 5; ++depth) {
-        const QStringList before = Menus();
-        Move_To(level.topLeft() + FirstRow);
-        desktop.XDo({u"click"_s, u"1"_s});
-        const QRect child = Wait_For_Another(before);
-        EXPECT_EQ(child.left(), level.right() + 1) << depth;
-        level = child;
+    Click(Strip, {"push button", "My Links"});
+    QRect menu = Find({}, {"popup menu", "My Links"}).place;
+    EXPECT_EQ(menu.topLeft(), QPoint(345, 20));
+    const QPoint header(menu.center().x(), menu.top() + 10); // opens nothing again
+    for (int level = 0; level < 4; ++level) {
+        const QByteArray row = "Row " + QByteArray::number(level);
+        Click({}, {"menu item", row});
+        const QRect child = Find({}, {"popup menu", row}).place;
+        EXPECT_EQ(child.left(), menu.right() + 1) << level;
+        menu = child;
     }
-    Move_To(level.topLeft() + FirstRow);
+    Rest_At(Place({}, {"menu item", "Row 4"}));
     EXPECT_EQ(Menus().size(), 5);
     EXPECT_FALSE(Wait_Until([&] { return desktop.Geometry(strip).height() < 20; }, 4500));
     EXPECT_EQ(Menus().size(), 5) << "the mouse rests in the last one";
-    Move_To(rootHeader);
+    Rest_At(header);
     EXPECT_TRUE(Wait_Until([&] { return Menus().size() == 1; })) << "what was left closes";
-    Move_To({900, 600});
+    Rest_At({900, 600});
     EXPECT_TRUE(Wait_Until([&] { return Menus().isEmpty(); }));
     EXPECT_TRUE(Wait_Until([&] { return desktop.Geometry(strip).height() < 20; }));
     tockly.Signal(SIGTERM);
@@ -100,13 +83,11 @@ TEST_F(Links, A_Target_Is_Opened_As_One_Also_By_Keyboard_And_Never_Through_A_She
     Tockly tockly(desktop, Home());
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    Tockly second(desktop, Home());
-    second.Start();
-    EXPECT_EQ(second.Wait_For_End(), 0);
+    Launch_Again();
     Wait_For_Focus(Strip);
     strip = Strip_Window();
     Keys({u"space"_s});
-    Wait_For_Another({});
+    Find({}, {"popup menu", "My Links"});
     EXPECT_TRUE(Wait_Until([&] { return desktop.XDo({u"getactivewindow"_s}) != strip; }));
     Keys({u"End"_s, u"Return"_s}); // the link stands behind the program's category
     EXPECT_TRUE(Wait_Until([&] { return File_Bytes(Home() + "/ran"_L1) == "0\n"; }));

@@ -1,5 +1,5 @@
 // The program as a whole, on a real X desktop.
-#include "desktop/program_fixture.h"
+#include "desktop/driven.h"
 #include "desktop/records.h"
 
 #include <QDir>
@@ -14,53 +14,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST_F(Program, First_Start_Stands_At_The_Top_Greets_And_Saves_On_Ctrl_C) {
-    Give_Examples();
-    Forget_Settings();
-    Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    const QString window = Strip_Window();
-    EXPECT_EQ(desktop.Geometry(window), QRect((1024 - 333) / 2, 0, 333, 20));
-    const QString state = desktop.Property(window, u"_NET_WM_STATE"_s);
-    for (const QString& wanted : {u"_NET_WM_STATE_ABOVE"_s, u"_NET_WM_STATE_SKIP_TASKBAR"_s,
-                                  u"_NET_WM_STATE_SKIP_PAGER"_s}) {
-        EXPECT_TRUE(state.contains(wanted)) << qPrintable(state);
-    }
-    EXPECT_EQ(desktop.Property(window, u"_NET_FRAME_EXTENTS"_s).section(u'=', 1).remove(u' '),
-              u"0,0,0,0"_s);
-    EXPECT_TRUE(Wait_Until([&] { return Line_Has_Text(); }, 5000)) << "no greeting";
+class Whole : public Driven {};
 
-    tockly.Signal(SIGINT);
-    EXPECT_EQ(tockly.Wait_For_End(), 0);
-    EXPECT_EQ(Reminder_Count(Reminders()), 5);
-    const QString user = u"HKEY_CURRENT_USER.reg"_s;
-    EXPECT_EQ(Registry_Value(Home(), user, u"First Time"_s), u"dword:00000000"_s);
-    EXPECT_EQ(Registry_Value(Home(), user, u"Global_CurID"_s), u"dword:00000001"_s);
-    EXPECT_EQ(Registry_Value(Home(), user, u"Global_Config_MainForm_Width"_s), u"dword:00001383"_s);
-    EXPECT_EQ(Registry_Value(Home(), u"HKEY_LOCAL_MACHINE.reg"_s, u"Global_MaxAccountID"_s),
-              u"dword:00000002"_s);
-}
-
-TEST_F(Program, The_Strip_Is_Dragged_And_Sized_And_Comes_Back_Where_It_Was_Left) {
+TEST_F(Whole, The_Strip_Is_Dragged_And_Sized_And_Comes_Back_Where_It_Was_Left) {
     {
         Tockly tockly(desktop, Home());
         tockly.Start();
         ASSERT_TRUE(desktop.Wait_For_Window(Strip));
         const QRect start = desktop.Geometry(Strip_Window());
-        const auto at = [](int x, int y) {
-            return QStringList{QString::number(x), QString::number(y)};
-        };
-        desktop.XDo(QStringList{u"mousemove"_s} + at(start.x() + 250, 10) +
-                    QStringList{u"mousedown"_s, u"1"_s, u"mousemove"_s} + at(300, 400) +
-                    QStringList{u"mousemove"_s} + at(350, 410) + QStringList{u"mouseup"_s, u"1"_s});
+        const QPoint line = Place(Strip, MessageLine);
+        const QPoint held = line - start.topLeft() + QPoint(100, 400);
+        Drag(line, held);
         EXPECT_TRUE(Wait_Until([&] {
-            return desktop.Geometry(Strip_Window()) == QRect(100, 400, 333, 20);
+            return desktop.Geometry(Strip_Window()) == QRect({100, 400}, start.size());
         })) << desktop.Geometry(Strip_Window()).x();
-        desktop.XDo(QStringList{u"mousemove"_s} + at(100 + 331, 410) +
-                    QStringList{u"mousedown"_s, u"1"_s, u"mousemove"_s} + at(100 + 400, 410) +
-                    QStringList{u"mousemove"_s} + at(100 + 431, 410) +
-                    QStringList{u"mouseup"_s, u"1"_s});
+        Drag({100 + start.width() - 2, 410}, {100 + start.width() + 98, 410});
         EXPECT_TRUE(Wait_Until([&] {
             return desktop.Geometry(Strip_Window()) == QRect(100, 400, 433, 20);
         })) << desktop.Geometry(Strip_Window()).width();
@@ -74,22 +42,20 @@ TEST_F(Program, The_Strip_Is_Dragged_And_Sized_And_Comes_Back_Where_It_Was_Left)
         Wait_Until([&] { return desktop.Geometry(Strip_Window()) == QRect(100, 400, 433, 20); }));
 }
 
-TEST_F(Program, A_Second_Launch_Brings_The_Strip_Forward_And_Gives_It_The_Focus) {
+TEST_F(Whole, A_Second_Launch_Brings_The_Strip_Forward_And_Gives_It_The_Focus) {
     Tockly first(desktop, Home());
     first.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
     const QString window = Strip_Window();
     EXPECT_NE(desktop.XDo({u"getactivewindow"_s}), window) << "the strip took the focus at start";
 
-    Tockly second(desktop, Home());
-    second.Start();
-    EXPECT_EQ(second.Wait_For_End(), 0);
+    Launch_Again();
     EXPECT_TRUE(first.Is_Running());
     EXPECT_TRUE(Wait_Until([&] { return desktop.XDo({u"getactivewindow"_s}) == window; }));
     EXPECT_EQ(Count(Strip), 1);
 }
 
-TEST_F(Program, Launches_At_The_Same_Moment_And_After_A_Kill_End_With_One_Toolbar) {
+TEST_F(Whole, Launches_At_The_Same_Moment_And_After_A_Kill_End_With_One_Toolbar) {
     std::vector<std::unique_ptr<Tockly>> copies;
     for (int i = 0; i < 4; ++i) {
         copies.push_back(std::make_unique<Tockly>(desktop, Home()));
@@ -111,18 +77,15 @@ TEST_F(Program, Launches_At_The_Same_Moment_And_After_A_Kill_End_With_One_Toolba
     EXPECT_TRUE(desktop.Wait_For_Window(Strip));
 }
 
-TEST_F(Program, A_Box_During_The_Load_Neither_Ends_The_Program_Nor_Stops_A_Second_Launch) {
+TEST_F(Whole, A_Box_During_The_Load_Neither_Ends_The_Program_Nor_Stops_A_Second_Launch) {
     ASSERT_TRUE(Write_File(Reminders(), "RSaveFile001\x01"));
     Tockly tockly(desktop, Home());
     tockly.Start();
     ASSERT_TRUE(desktop.Wait_For_Window(Box));
-    Tockly second(desktop, Home());
-    second.Start();
-    EXPECT_EQ(second.Wait_For_End(), 0);
+    Launch_Again();
     EXPECT_EQ(Count(Strip), 0);
 
-    desktop.XDo({u"windowactivate"_s, u"--sync"_s, desktop.Visible_Windows(Box).value(0)});
-    desktop.XDo({u"key"_s, u"Return"_s});
+    Click(Box, {"push button", "OK"});
     ASSERT_TRUE(desktop.Wait_For_Window(Strip));
     EXPECT_EQ(Count(Strip), 1);
     tockly.Signal(SIGTERM);
@@ -131,21 +94,16 @@ TEST_F(Program, A_Box_During_The_Load_Neither_Ends_The_Program_Nor_Stops_A_Secon
     EXPECT_EQ(File_Bytes(Reminders() + ".damaged"_L1), "RSaveFile001\x01");
 }
 
-TEST_F(Program, The_End_In_The_Middle_Of_Something_Saves_What_There_Is) {
+TEST_F(Whole, The_End_In_The_Middle_Of_Something_Saves_What_There_Is) {
     struct Case {
         const char* what;
         bool damaged;
         std::function<bool()> prepare;
     };
-    const auto at = [this](int dx) {
-        const QRect strip = desktop.Geometry(Strip_Window());
-        return QStringList{u"mousemove"_s, QString::number(strip.x() + dx),
-                           QString::number(strip.y() + 10)};
-    };
     const std::vector<Case> cases{
         {"a drag", false,
          [&] {
-             desktop.XDo(at(250) + QStringList{u"mousedown"_s, u"1"_s});
+             desktop.XDo(Move_To(Place(Strip, MessageLine)) + QStringList{u"mousedown"_s, u"1"_s});
              desktop.XDo({u"mousemove"_s, u"400"_s, u"300"_s});
              return Wait_Until([&] { return desktop.Geometry(Strip_Window()).y() > 200; });
          }},
@@ -155,8 +113,8 @@ TEST_F(Program, The_End_In_The_Middle_Of_Something_Saves_What_There_Is) {
              if (!Wait_Until([&] { return Line_Has_Text(); })) {
                  return false;
              }
-             desktop.XDo(at(230) + QStringList{u"click"_s, u"3"_s});
-             return Wait_Until([&] { return Menu_Is_Open(); });
+             Click(Strip, MessageLine, u"3"_s);
+             return A_Menu_Opens_Beside(1);
          }},
         {"a message box of the load", true, [&] { return desktop.Wait_For_Window(Box); }},
     };
@@ -181,7 +139,7 @@ TEST_F(Program, The_End_In_The_Middle_Of_Something_Saves_What_There_Is) {
     }
 }
 
-TEST_F(Program, The_Loss_Of_The_Screen_Saves_Too) {
+TEST_F(Whole, The_Loss_Of_The_Screen_Saves_Too) {
     Give_Examples();
     Tockly tockly(desktop, Home());
     tockly.Start();
@@ -195,23 +153,20 @@ TEST_F(Program, The_Loss_Of_The_Screen_Saves_Too) {
               u"dword:00000000"_s);
 }
 
-TEST_F(Program, What_Cannot_Be_Saved_Is_Said_And_The_Rest_Is_Saved) {
+TEST_F(Whole, What_Cannot_Be_Saved_Is_Said_And_The_Rest_Is_Saved) {
     ASSERT_TRUE(QDir().mkpath(Reminders()));
     for (const bool byUser : {true, false}) {
         SCOPED_TRACE(byUser ? "ended by the user" : "ended by the session");
         Tockly tockly(desktop, Home());
         tockly.Start();
         ASSERT_TRUE(desktop.Wait_For_Window(Box)) << "the folder is no valid file";
-        desktop.XDo({u"windowactivate"_s, u"--sync"_s, desktop.Visible_Windows(Box).value(0)});
-        desktop.XDo({u"key"_s, u"Return"_s});
+        Click(Box, {"push button", "OK"});
         ASSERT_TRUE(desktop.Wait_For_Window(Strip));
         if (byUser) {
-            const QRect strip = desktop.Geometry(Strip_Window());
-            desktop.XDo({u"mousemove"_s, QString::number(strip.right() - 8), u"10"_s, u"keydown"_s,
-                         u"ctrl"_s, u"click"_s, u"1"_s, u"keyup"_s, u"ctrl"_s});
-            ASSERT_TRUE(desktop.Wait_For_Window(Box)) << "no box about the save";
-            desktop.XDo({u"windowactivate"_s, u"--sync"_s, desktop.Visible_Windows(Box).value(0)});
-            desktop.XDo({u"key"_s, u"Return"_s});
+            desktop.XDo({u"keydown"_s, u"ctrl"_s});
+            Click(Strip, CloseButton);
+            desktop.XDo({u"keyup"_s, u"ctrl"_s});
+            Click(Box, {"push button", "OK"});
         } else {
             tockly.Signal(SIGTERM);
         }
@@ -222,7 +177,7 @@ TEST_F(Program, What_Cannot_Be_Saved_Is_Said_And_The_Rest_Is_Saved) {
     }
 }
 
-TEST_F(Program, A_Full_Disk_Leaves_The_Old_File_As_It_Was) {
+TEST_F(Whole, A_Full_Disk_Leaves_The_Old_File_As_It_Was) {
     const QString disk = Home() + "/disk"_L1;
     ASSERT_TRUE(QDir().mkpath(disk));
     if (::mount("tmpfs", qPrintable(disk), "tmpfs", 0, "size=64k") != 0) {
@@ -253,7 +208,7 @@ TEST_F(Program, A_Full_Disk_Leaves_The_Old_File_As_It_Was) {
     EXPECT_FALSE(Registry_Value(Home(), u"HKEY_CURRENT_USER.reg"_s, u"First Time"_s).isEmpty());
 }
 
-TEST_F(Program, A_Folder_Without_Rights_Is_Lived_With) {
+TEST_F(Whole, A_Folder_Without_Rights_Is_Lived_With) {
     const QByteArray old = Reminder_File({{.id = 5}});
     ASSERT_TRUE(Write_File(Reminders(), old));
     QFile::setPermissions(Home(),
@@ -276,7 +231,7 @@ TEST_F(Program, A_Folder_Without_Rights_Is_Lived_With) {
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-TEST_F(Program, A_Due_Reminder_Sounds_And_Passes_Through_The_Line_Until_It_Is_Dismissed) {
+TEST_F(Whole, A_Due_Reminder_Sounds_And_Passes_Through_The_Line_Until_It_Is_Dismissed) {
     ASSERT_TRUE(
         Write_File(Reminders(), Reminder_File({{.id = 1, .text = "Due now", .sound = true}})));
     const QString heard = Home() + "/heard.raw"_L1;
@@ -291,10 +246,9 @@ TEST_F(Program, A_Due_Reminder_Sounds_And_Passes_Through_The_Line_Until_It_Is_Di
         return std::any_of(bytes.begin(), bytes.end(), [](char byte) { return byte != 0; });
     })) << "the beep is not to be heard";
 
-    const QRect strip = desktop.Geometry(Strip_Window());
-    desktop.XDo({u"mousemove"_s, QString::number(strip.x() + 230), u"10"_s, u"click"_s, u"3"_s});
-    EXPECT_TRUE(Wait_Until([&] { return Menu_Is_Open(); }));
-    desktop.XDo({u"key"_s, u"Down"_s, u"Return"_s});
+    Click(Strip, MessageLine, u"3"_s);
+    EXPECT_TRUE(A_Menu_Opens_Beside(1));
+    Keys({u"Down"_s, u"Return"_s});
     EXPECT_TRUE(Wait_Until([&] { return !Line_Has_Text(); })) << "\"Ok, I got it\" does not end it";
     EXPECT_TRUE(tockly.Is_Running());
 }

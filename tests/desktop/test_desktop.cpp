@@ -1,5 +1,7 @@
 #include "desktop/test_desktop.h"
 
+#include "desktop/accessible.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -28,6 +30,7 @@ TestDesktop::TestDesktop(const QString& size)
     environment.remove(u"WAYLAND_DISPLAY"_s);
     environment.remove(u"QT_QPA_PLATFORM"_s);
     environment.insert(u"SDL_AUDIODRIVER"_s, u"dummy"_s);
+    environment.insert(u"XDG_RUNTIME_DIR"_s, runtime.path());
     auto screen = std::make_unique<QProcess>();
     screen->setStandardErrorFile(QProcess::nullDevice());
     screen->start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, size + "x24"_L1,
@@ -41,6 +44,7 @@ TestDesktop::TestDesktop(const QString& size)
         return;
     }
     environment.insert(u"DISPLAY"_s, u':' + QString::fromLatin1(number.trimmed()));
+    Start_Bus();
     // A window manager that comes up too early for its screen goes again.
     for (int attempt = 0; attempt < 3 && !up; ++attempt) {
         Start({u"openbox"_s});
@@ -74,6 +78,22 @@ void TestDesktop::Start(const QStringList& command) {
     process->start(command.first(), command.mid(1));
     process->waitForStarted();
     processes.push_back(std::move(process));
+}
+
+// Screen readers reach the program over a bus of its own, which the session's knows.
+void TestDesktop::Start_Bus() {
+    const QString address = "unix:path="_L1 + runtime.path() + "/bus"_L1;
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
+    environment.insert(u"QT_LINUX_ACCESSIBILITY_ALWAYS_ON"_s, u"1"_s);
+    Start({u"dbus-daemon"_s, u"--session"_s, u"--nofork"_s, u"--nopidfile"_s,
+           u"--address="_s + address});
+    QString reached;
+    Wait_Until([&] {
+        reached = Run({u"dbus-send"_s, u"--session"_s, u"--print-reply=literal"_s,
+                       u"--dest=org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus.GetAddress"_s});
+        return !reached.isEmpty();
+    });
+    Connect_Accessibility(reached.toLatin1());
 }
 
 void TestDesktop::Kill_Screen() {
@@ -115,6 +135,29 @@ QStringList TestDesktop::Search(const QStringList& by) const {
 
 bool TestDesktop::Wait_For_Window(const QString& title) const {
     return Wait_Until([&] { return !Visible_Windows(title).isEmpty(); });
+}
+
+std::vector<Control> TestDesktop::Controls(const QString& window) const {
+    std::vector<Control> controls = Shown_Controls(window);
+    const double scale = environment.value(u"QT_SCALE_FACTOR"_s, u"1"_s).toDouble();
+    for (Control& control : controls) {
+        control.place = {(control.place.topLeft().toPointF() * scale).toPoint(),
+                         (control.place.size().toSizeF() * scale).toSize()};
+    }
+    return controls;
+}
+
+QString TestDesktop::Spoken(const QString& window) const {
+    QString text;
+    for (const Control& control : Controls(window)) {
+        text += u"%1 \"%2\"%3 %4,%5 %6x%7\n"_s.arg(control.role, control.name)
+                    .arg(control.checked ? u" (checked)"_s : QString())
+                    .arg(control.place.x())
+                    .arg(control.place.y())
+                    .arg(control.place.width())
+                    .arg(control.place.height());
+    }
+    return text;
 }
 
 QRect TestDesktop::Geometry(const QString& window) const {
@@ -166,7 +209,10 @@ void Tockly::Set_Environment(const QString& name, const QString& value) {
 void Tockly::Start(const QStringList& through) {
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    const QStringList command = through + QStringList{QStringLiteral(TOCKLY_EXECUTABLE)};
+    // Another build of it can be named.
+    const QStringList command =
+        through +
+        QStringList{qEnvironmentVariable("TOCKLY_PROGRAM", QStringLiteral(TOCKLY_EXECUTABLE))};
     process.start(command.first(), command.mid(1));
     process.waitForStarted();
 }

@@ -2,6 +2,8 @@
 // and the program started on it with folders of its own.
 #pragma once
 
+#include "desktop/accessible.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRect>
@@ -33,6 +35,10 @@ public:
     // Those that xdotool finds: {"--class", "^tockly$"}.
     QStringList Search(const QStringList& by) const;
     bool Wait_For_Window(const QString& title) const;
+    // What the windows of a title show to a screen reader, in pixels of the screen; all without
+    // one.
+    std::vector<Control> Controls(const QString& window = {}) const;
+    QString Spoken(const QString& window) const;
     QRect Geometry(const QString& window) const;
     QString Property(const QString& window, const QString& name) const;
     // Colour of a pixel of the screen as "#RRGGBB".
@@ -42,7 +48,9 @@ public:
 
 private:
     void Start(const QStringList& command);
+    void Start_Bus();
 
+    QTemporaryDir runtime;
     QProcessEnvironment environment;
     std::vector<std::unique_ptr<QProcess>> processes; // the screen first
     bool up = false;

@@ -49,6 +49,7 @@ void WizardTimePage::Add_Time(int index) {
     const int top = RowsTop + index % Rows * RowPitch;
     Check3[at] = Add_Check(this, u"Check3_%1"_s.arg(index), u"At:"_s, left, top + 3,
                            [this, at](bool on) { Take_Condition(at, on); });
+    Check3[at]->setAccessibleName(u"At time %1"_s.arg(index + 1));
     Text4[at] = Add_Field(this, u"Text4_%1"_s.arg(index), u"Time %1"_s.arg(index + 1),
                           {left + 48, top, 52, FieldHeight});
     Text4[at]->setText(state.Text4[at]);
