@@ -13,7 +13,7 @@ using namespace page_parts;
 namespace {
 
 constexpr int FirstTop = 20;
-constexpr int MostGap = 5; // between two types
+constexpr int MostGap = 9; // between two types
 constexpr int TextLeft = 112;
 constexpr int TextRightOf = 4; // the options, which a wide face makes longer
 
