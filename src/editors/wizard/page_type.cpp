@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +16,7 @@ namespace {
 constexpr int FirstTop = 20;
 constexpr int MostGap = 9; // between two types
 constexpr int TextLeft = 112;
+constexpr int TextBelow = 2;   // the top of its option
 constexpr int TextRightOf = 4; // the options, which a wide face makes longer
 
 struct TypeText {
@@ -61,26 +63,29 @@ QRadioButton* WizardTypePage::Add_Type(int index) {
 // One type below the other, each as high as its text and its example.
 void WizardTypePage::Lay_Out(int textLeft) {
     std::array<std::vector<QLabel*>, WizardTypeCount> lines;
-    int height = 0;
+    std::array<int, WizardTypeCount> heights{};
     for (std::size_t i = 0; i < lines.size(); ++i) {
         lines[i] = {Add_Text(this, typeTexts[i].Text, textLeft, 0, Width - textLeft)};
         if (!typeTexts[i].Example.isEmpty())
             lines[i].push_back(Add_Text(this, typeTexts[i].Example, textLeft, 0, Width - textLeft,
                                         TextLook::Hint));
+        heights[i] = TextBelow;
         for (const QLabel* line : lines[i])
-            height += line->height();
+            heights[i] += line->height();
+        heights[i] = std::max(heights[i], Option2[i]->height());
     }
-    const int gap = std::clamp((Height - FirstTop - height) / WizardTypeCount, 1, MostGap);
+    const int needed = std::accumulate(heights.begin(), heights.end(), FirstTop);
+    const int gap = std::clamp((Height - needed) / (WizardTypeCount - 1), 0, MostGap);
     int top = FirstTop;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         Option2[i]->move(Option2[i]->x(), top);
-        int below = top + 2;
+        int below = top + TextBelow;
         for (QLabel* line : lines[i]) {
             line->move(textLeft, below);
             below += line->height();
             new ClickFilter(line, Option2[i]);
         }
-        top = std::max(below, Option2[i]->geometry().bottom() + 1) + gap;
+        top += heights[i] + gap;
     }
 }
 
