@@ -17,7 +17,7 @@ const std::array<TimerRow, TimerCount> Global_TimerTable = {{
     {"AutoHideTimer", 1000, true},
     {"TK_AppMessage_Timer", 500, false},
     {"Win98HideForms", 600, false},
-    {"TransHandlerTimer", 5, false},
+    {"TransHandlerTimer", 5, false, UnderBox::Ticks},
     {"ResizeForm_Timer", 10, false},
 }};
 
@@ -32,8 +32,9 @@ std::size_t Index_Of(TimerName timer) {
     return static_cast<std::size_t>(timer);
 }
 
-bool Held_ByBox() {
-    return platform::Dialogs::Is_Provided() && platform::Dialogs::Get().Holds_Timers();
+bool Held_ByBox(TimerName timer) {
+    return Global_TimerTable[Index_Of(timer)].Box == UnderBox::Rests &&
+           platform::Dialogs::Is_Provided() && platform::Dialogs::Get().Holds_Timers();
 }
 
 } // namespace
@@ -105,7 +106,7 @@ void Timers::Stop_All() {
 }
 
 void Timers::Tick(TimerName timer) {
-    if (ended || Held_ByBox()) {
+    if (ended || Held_ByBox(timer)) {
         return;
     }
     // The work may register other work for its own timer.

@@ -23,16 +23,19 @@ enum class TimerName {
 };
 inline constexpr int TimerCount = 11;
 
+// While a message or question box of the program is on view a tick passes without work; the work
+// follows at the next tick. What such a box finds half-way on the screen goes on.
+enum class UnderBox { Rests, Ticks };
+
 struct TimerRow {
     const char* Name;
     int Interval; // ms
     bool Enabled; // from the end of the load on
+    UnderBox Box = UnderBox::Rests;
 };
 // In the order of TimerName.
 extern const std::array<TimerRow, TimerCount> Global_TimerTable;
 
-// The running timers. While a message or question box of the program is on view a tick passes
-// without work; the work follows at the next tick.
 class Timers {
 public:
     Timers();

@@ -1,10 +1,8 @@
 #include "controls/transparency.h"
 
-#include "controls/program_end.h"
+#include "controls/show_beside.h"
 #include "controls/timers.h"
 #include "platform/clock.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cstddef>
@@ -25,16 +23,6 @@ void Apply_Alpha(platform::WindowId window, std::int16_t alpha) {
     if (platform::Windows::Is_Provided()) {
         platform::Windows::Get().Set_Alpha(window, alpha);
     }
-}
-
-// The loop waits for real: a spinning one would take a whole core.
-void Wait_OutRound(std::int32_t start) {
-    auto& clock = platform::Clock::Get();
-    while (clock.Milliseconds_Since(start) < RoundTime) {
-        QCoreApplication::processEvents();
-        clock.Wait(1);
-    }
-    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -115,7 +103,7 @@ void TransparencyClass::AddHWNDtoList(QWidget* form, FadeDirection direction,
     const std::int32_t before = clock.Milliseconds();
     Apply_Alpha(hWnd, alpha);
     if (direction == FadeDirection::In) {
-        form->setVisible(true);
+        Show_BesideMenus(*form);
     }
     // Becoming visible runs handlers of the form: the list may be another one by now.
     const std::int32_t index = Index_Of(hWnd);
@@ -165,7 +153,7 @@ void TransparencyClass::Work_OutStep() {
 }
 
 // The list shrinks as fades end: the last record then stands in the place of the one that ended.
-void TransparencyClass::Do_Round() {
+void TransparencyClass::Fade_AStep() {
     std::int32_t i = 0;
     while (i <= LastIndex) {
         Record& record = list[At(i)];
@@ -187,26 +175,21 @@ void TransparencyClass::Do_Round() {
     }
 }
 
-void TransparencyClass::Release_All() {
-    std::fill(list.begin(), list.end(), Record());
-    LastIndex = -1;
+void TransparencyClass::Do_Round() {
+    auto& clock = platform::Clock::Get();
+    const std::int32_t start = clock.Milliseconds();
+    if (RecalcSpeed) {
+        Work_OutStep();
+    }
+    Fade_AStep();
+    Running = LastIndex >= 0;
+    if (Running) {
+        pace.Start(RoundTime - clock.Milliseconds_Since(start), [this] { Do_Round(); });
+    }
 }
 
 void TransparencyClass::TransparencyHandler() {
-    if (Running) {
-        return;
-    }
-    Running = true;
-    while (LastIndex >= 0 && !Program_Is_Ending()) {
-        if (RecalcSpeed) {
-            Work_OutStep();
-        }
-        const std::int32_t start = platform::Clock::Get().Milliseconds();
+    if (!Running) {
         Do_Round();
-        Wait_OutRound(start);
-    }
-    Running = false;
-    if (Program_Is_Ending()) {
-        Release_All();
     }
 }

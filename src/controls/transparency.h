@@ -1,12 +1,13 @@
-// Fades windows in and out, any number of them in one loop. Whether fades are wanted at all
+// Fades windows in and out, any number of them at the same pace. Whether fades are wanted at all
 // (Global_IsWinXP, Global_UseTransparency) is for the caller to ask.
 //
-// A caller adds its windows, then calls Enable_TC_Timer. The loop runs in one tick of
-// TransHandlerTimer until all fades are over, and handles events meanwhile. A window that is
-// destroyed in the middle leaves the list at its time limit.
+// A caller adds its windows, then calls Enable_TC_Timer. From the next tick of TransHandlerTimer on
+// there is a round every 3 ms until all fades are over. A window that is destroyed in the middle
+// leaves the list at its time limit.
 #pragma once
 
 #include "controls/fade_rules.h"
+#include "controls/step_timer.h"
 #include "platform/window.h"
 
 #include <QPointer>
@@ -31,7 +32,7 @@ class TransparencyClass {
 public:
     TransparencyClass();
 
-    // The loop; returns when the list is empty, or the program ends.
+    // The first round; the others follow by themselves until the list is empty.
     void TransparencyHandler();
     // Takes a window out of the list, wherever its fade is; nothing when it is not there.
     void DeleteHWNDfromList(platform::WindowId hWnd, Layering layering, FadeEnd end);
@@ -41,7 +42,7 @@ public:
     // At its end the form is enabled and made invisible.
     void DoFadeOut(QWidget* form, FadeWorkForm* workForm = nullptr);
     void AddHWNDtoList(QWidget* form, FadeDirection direction, FadeWorkForm* workForm);
-    // Starts the loop at the next tick, unless it runs or has nothing to do.
+    // Starts the rounds at the next tick, unless they run or have nothing to do.
     void Enable_TC_Timer();
     bool IsRunning() const { return Running; }
 
@@ -65,13 +66,14 @@ private:
     Record& Take_Record(platform::WindowId hWnd, FadeDirection direction);
     void Work_OutStep();
     void Do_Round();
-    void Release_All();
+    void Fade_AStep();
 
     std::vector<Record> list;
     std::int32_t LastIndex = -1;
     std::int16_t alphaStep = 1;
     bool RecalcSpeed = false;
     bool Running = false;
+    StepTimer pace;
 };
 
 // The one for the whole program, made at its first use.

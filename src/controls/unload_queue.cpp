@@ -2,10 +2,21 @@
 
 #include "controls/timers.h"
 
+#include <QThread>
+
 #include <algorithm>
 #include <utility>
 
 std::vector<QPointer<QWidget>> Global_PendingUnloads;
+
+namespace {
+
+// The program's own loop is the first.
+bool In_InnerLoop() {
+    return QThread::currentThread()->loopLevel() > 1;
+}
+
+} // namespace
 
 void Queue_FormUnload(QWidget* form) {
     if (form == nullptr) {
@@ -27,14 +38,19 @@ void Unload_PendingForms() {
         if (form) {
             form->hide();
         }
-        // The hidden form may be the one whose handler called.
-        if (form) {
+        if (form && In_InnerLoop()) {
+            Queue_FormUnload(form);
+        } else if (form) {
+            // It may be the one whose handler called.
             form->deleteLater();
         }
     }
 }
 
 void UnloadFormsTimer_Tick() {
+    if (In_InnerLoop()) {
+        return;
+    }
     if (Global_Timers != nullptr) {
         Global_Timers->Enable(TimerName::UnloadFormsTimer, false);
     }

@@ -3,6 +3,7 @@
 #include "delivery/important_rwin.h"
 
 #include "controls/program_end.h"
+#include "controls/show_beside.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
 #include "core/reminder_store.h"
@@ -65,7 +66,7 @@ void frmImportantRWin::Show_Window() {
         Global_Transparency().DoFadeIn(this);
         Global_Transparency().Enable_TC_Timer();
     } else {
-        show();
+        Show_BesideMenus(*this);
     }
     windows.Set_Topmost(winId(), true);
     Tell_ScreenReader();

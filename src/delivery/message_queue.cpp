@@ -96,15 +96,13 @@ void Put_OnLine() {
     const ToolbarMessage& message = Message_At(Global_CurrentMessage);
     labelLeft = Global_MessageLine->Line_Width();
     Global_MessageLine->Put_Text(message.Text, message.LabelWidth, labelLeft);
-    // A fade may run in here, and handlers within it.
     Global_Toolbar->AutoHide_ShowProc(false);
 }
 
 void End_CurrentMessage() {
     Message_At(Global_CurrentMessage).Active = false;
     Global_CurrentMessage = -1;
-    // What ran inside the choice may have ended that message and queued another.
-    const bool more = Select_NextMessage() || Any_MessageActive();
+    const bool more = Select_NextMessage();
     if (!more)
         Global_MessageLine->Clear_Line();
     Global_Timers->Enable(TimerName::S_Reminder_Timer, more);
@@ -182,7 +180,7 @@ bool Select_NextMessage() {
     if (!Choose_InRound() && !Start_NextRound())
         return false;
     Put_OnLine();
-    return Global_CurrentMessage != -1;
+    return true;
 }
 
 bool Any_MessageActive() {

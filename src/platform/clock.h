@@ -1,9 +1,12 @@
-// The local date and time, and a millisecond clock to measure with.
+// The local date and time, a millisecond clock to measure with, and calls when time has passed.
 #pragma once
 
 #include "platform/service.h"
 
 #include <cstdint>
+#include <functional>
+
+class QObject;
 
 namespace platform {
 
@@ -24,8 +27,9 @@ public:
     virtual LocalTime Now() = 0;
     // Never goes back, wraps after 2^32 ms. Differences: Milliseconds_Since.
     virtual std::int32_t Milliseconds() = 0;
-    // Lets the given time of this clock pass, without handling events.
-    virtual void Wait(int milliseconds) = 0;
+    // Calls work once, from the event loop, when so many ms of this clock have passed; never when
+    // the context is gone by then.
+    virtual void Call_Later(int milliseconds, QObject* context, std::function<void()> work) = 0;
 
     // Plain subtraction on the wrapping counter, ms.
     std::int32_t Milliseconds_Since(std::int32_t start) {

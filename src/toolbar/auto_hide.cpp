@@ -1,6 +1,6 @@
-// The strip gets out of the way and comes back. The collapse handles events: anything can happen in
-// the middle of it, a show, another hide and the end of the program among them.
+// The strip gets out of the way and comes back.
 #include "controls/program_end.h"
+#include "controls/show_beside.h"
 #include "controls/timers.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
@@ -8,13 +8,11 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "settings/global_settings.h"
-#include "toolbar/collapse.h"
 #include "toolbar/main_form.h"
 #include "toolbar/mdl_tray.h"
 #include "toolbar/tray_menu.h"
 
-#include <QCoreApplication>
-
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -45,7 +43,7 @@ void MainForm::Connect_Hiding(HidePorts hidePorts) {
 
 bool MainForm::IsHiding() const {
     const TransparencyClass& fades = Global_Transparency();
-    return IsHidingNow || fades.IsRunning() || fades.Is_FadingOut(this);
+    return collapsing || fades.IsRunning() || fades.Is_FadingOut(this);
 }
 
 bool MainForm::Toolbar_Visible() const {
@@ -113,56 +111,42 @@ void MainForm::AutoHide_HideProc(HideMode mode, bool forceHide) {
     if (mode > HideMode::TrayIcon) {
         return;
     }
-    IsHidingNow = true;
-    const int run = ++hideRun;
     saved = {live.Left, live.Top, live.Width, saved.Height};
     LastHideMode = mode;
     if (mode == HideMode::TrayIcon) {
         Hide_Completely();
     } else {
-        Collapse_Strip(mode, run);
-    }
-    if (run == hideRun) {
-        IsHidingNow = false;
+        Collapse_Strip(mode);
     }
 }
 
-// A show, or another hide after one, has taken over from the hide of this number.
-bool MainForm::Is_Overtaken(int run) const {
-    return run != hideRun || Program_Is_Ending();
-}
-
-void MainForm::Collapse_Strip(HideMode mode, int run) {
-    auto& clock = platform::Clock::Get();
+void MainForm::Collapse_Strip(HideMode mode) {
     auto& desktop = platform::Desktop::Get();
+    collapsing.emplace(
+        Collapsing{Collapse(mode, live, desktop.TwipsPerPixelX(), desktop.TwipsPerPixelY()),
+                   platform::Clock::Get().Milliseconds()});
     Picture2->setGeometry(rect());
     Picture2->show();
     Picture2->raise();
     if (isActiveWindow()) {
         Picture2->setFocus(Qt::MouseFocusReason);
     }
-    Collapse collapse(mode, live, desktop.TwipsPerPixelX(), desktop.TwipsPerPixelY());
-    const std::int32_t start = clock.Milliseconds();
-    while (clock.Milliseconds_Since(start) <= collapse.Time_Limit()) {
-        const std::int32_t round = clock.Milliseconds();
-        QCoreApplication::processEvents();
-        if (Is_Overtaken(run)) {
-            return;
-        }
-        const auto next = collapse.Next_Round();
-        if (!next) {
-            break;
-        }
-        Set_Bounds(*next);
-        while (clock.Milliseconds_Since(round) < Collapse::RoundTime) {
-            QCoreApplication::processEvents();
-            if (Is_Overtaken(run)) {
-                return;
-            }
-            clock.Wait(1);
-        }
+    Collapse_Step();
+}
+
+void MainForm::Collapse_Step() {
+    auto& clock = platform::Clock::Get();
+    const std::int32_t round = clock.Milliseconds();
+    const bool hasTime =
+        clock.Milliseconds_Since(collapsing->Start) <= collapsing->Rule.Time_Limit();
+    const auto next = hasTime ? collapsing->Rule.Next_Round() : std::nullopt;
+    Set_Bounds(next.value_or(collapsing->Rule.End_Bounds()));
+    if (next) {
+        collapseTimer.Start(Collapse::RoundTime - clock.Milliseconds_Since(round),
+                            [this] { Collapse_Step(); });
+    } else {
+        collapsing.reset();
     }
-    Set_Bounds(collapse.End_Bounds());
 }
 
 void MainForm::Hide_Completely() {
@@ -192,12 +176,12 @@ void MainForm::Restore_Bounds() {
 void MainForm::AutoHide_ShowProc(bool skipFade) {
     TransparencyClass& fades = Global_Transparency();
     // A fade of another window does not concern the strip.
-    const bool goes = IsHidingNow || fades.Is_FadingOut(this);
+    const bool goes = collapsing || fades.Is_FadingOut(this);
     if (Program_Is_Ending() || (isVisible() && !Is_Collapsed() && !goes)) {
         return;
     }
-    ++hideRun;
-    IsHidingNow = false;
+    collapsing.reset();
+    collapseTimer.Stop();
     Tray_RemoveIcon();
     setEnabled(true);
     LastMouseOver = Later_By(platform::Clock::Get().Milliseconds(), ShowGrace);
@@ -210,7 +194,7 @@ void MainForm::AutoHide_ShowProc(bool skipFade) {
         fades.Enable_TC_Timer();
     } else {
         fades.DeleteHWNDfromList(winId(), Layering::Remove, FadeEnd::KeepForm);
-        show();
+        Show_BesideMenus(*this);
     }
     Restore_Bounds();
     Stay_OnTop(Trigger::Now);
@@ -231,7 +215,7 @@ void MainForm::Hide_Strip() {
     if (!isVisible()) {
         return;
     }
-    if (Is_Collapsed() && !IsHidingNow) {
+    if (Is_Collapsed() && !collapsing) {
         Restore_Bounds();
     }
     AutoHide_HideProc(HideMode::TrayIcon, false);

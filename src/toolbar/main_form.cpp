@@ -108,7 +108,7 @@ void MainForm::Set_Bounds(const TwipsRect& wanted) {
     live = bounds;
     UpdateToolbarRect();
     // A window that is not shown gets its events later, but its line is asked for now.
-    if (!isVisible() && !IsHidingNow) {
+    if (!isVisible() && !collapsing) {
         Lay_Out();
     }
 }
@@ -136,7 +136,7 @@ void MainForm::UpdateToolbarRect() {
     toolbarRect.Right = TwipsX_To_Pixels(live.Left + live.Width);
     toolbarRect.Top = TwipsY_To_Pixels(live.Top);
     toolbarRect.Bottom = TwipsY_To_Pixels(live.Top + live.Height);
-    if (!IsHidingNow && !Is_Collapsed() && isVisible()) {
+    if (!collapsing && !Is_Collapsed() && isVisible()) {
         const std::int32_t height = saved.Height;
         saved = live;
         saved.Height = height;
@@ -150,7 +150,7 @@ void MainForm::moveEvent(QMoveEvent*) {
 void MainForm::resizeEvent(QResizeEvent*) {
     Take_LiveBounds();
     Picture2->setGeometry(rect());
-    if (!IsHidingNow && !Is_Collapsed()) {
+    if (!collapsing && !Is_Collapsed()) {
         Lay_Out();
     }
 }

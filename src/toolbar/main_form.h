@@ -8,9 +8,11 @@
 #pragma once
 
 #include "controls/metrics.h"
+#include "controls/step_timer.h"
 #include "controls/toolbar.h"
 #include "controls/wb_button.h"
 #include "delivery/message_line.h"
+#include "toolbar/collapse.h"
 #include "toolbar/container_menus.h"
 #include "toolbar/hide_rules.h"
 #include "toolbar/toolbar_commands.h"
@@ -19,6 +21,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class MessageSurface;
@@ -51,7 +54,7 @@ public:
     // The owner of the popup menus; it serves reminder windows, too.
     frmContainer& Container() { return container; }
     // Where the strip stands; in the middle of a collapse, where that began.
-    const TwipsRect& Live_Bounds() const { return IsHidingNow ? saved : live; }
+    const TwipsRect& Live_Bounds() const { return collapsing ? saved : live; }
     // The bounds to come back to from a hide.
     const TwipsRect& Saved_Bounds() const { return saved; }
     // Shown if it was hidden, in front and with the keyboard focus: a second launch asks for it.
@@ -136,8 +139,8 @@ private:
     bool Close_Offered(HideOption option) const;
 
     void AutoHideTimer_Tick();
-    void Collapse_Strip(HideMode mode, int run);
-    bool Is_Overtaken(int run) const;
+    void Collapse_Strip(HideMode mode);
+    void Collapse_Step();
     void Hide_Completely();
     void Restore_Bounds();
     void Minimize_Strip();
@@ -159,8 +162,13 @@ private:
     std::int32_t LastMouseOver = 0;
     std::int32_t lastTopmost = 0;
     bool topmostCalled = false;
-    bool IsHidingNow = false;
-    int hideRun = 0; // counts hides and shows
+    // A collapse on its way, and when it began (millisecond clock).
+    struct Collapsing {
+        Collapse Rule;
+        std::int32_t Start = 0;
+    };
+    std::optional<Collapsing> collapsing;
+    StepTimer collapseTimer;
     HideMode LastHideMode = HideMode::Best;
     bool standsApart = false; // since the window was last mapped
     MouseButton LastCloseButton = MouseButton::Left;

@@ -56,7 +56,7 @@ void MainForm::Stay_OnTop(Trigger trigger) {
     }
     auto& clock = platform::Clock::Get();
     if (trigger == Trigger::Paint &&
-        (IsHidingNow || (topmostCalled && clock.Milliseconds_Since(lastTopmost) < TopmostPause))) {
+        (collapsing || (topmostCalled && clock.Milliseconds_Since(lastTopmost) < TopmostPause))) {
         return;
     }
     topmostCalled = true;

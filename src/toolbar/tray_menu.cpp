@@ -1,9 +1,5 @@
 #include "toolbar/tray_menu.h"
 
-#include "controls/program_end.h"
-
-#include <QCoreApplication>
-
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -49,9 +45,8 @@ platform::TrayIcon Make_TrayIcon(ToolbarCommands& commands, Toolbar& toolbar) {
 void mnuTrayIcon_Click(TrayItem item, ToolbarCommands& commands, Toolbar& toolbar) {
     if (item != TrayItem::Exit) {
         toolbar.AutoHide_ShowProc(true);
-        QCoreApplication::processEvents();
     }
-    if (const auto command = Command_Of(item); command && !Program_Is_Ending()) {
+    if (const auto command = Command_Of(item)) {
         commands.Run(*command);
     }
 }

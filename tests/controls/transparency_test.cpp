@@ -1,11 +1,10 @@
-#include "controls/program_end.h"
 #include "controls/timers.h"
 #include "controls/transparency.h"
 #include "support/fake_clock.h"
 #include "support/recording_windows.h"
+#include "support/scripted_dialogs.h"
 
-#include <QTest>
-#include <QTimer>
+#include <QWidget>
 #include <gtest/gtest.h>
 
 namespace {
@@ -49,32 +48,25 @@ TEST(FadeRules, A_fade_is_over_at_its_target_or_when_its_time_is_up) {
 class Transparency : public testing::Test {
 protected:
     Transparency() { Global_Timers = &timers; }
-    ~Transparency() override { Set_Program_Ending(false); }
 
     RecordingWindows::State& State_Of(const QWidget& window) {
         return windows.windows[window.winId()];
     }
-    // While the loop handles events, once so many ms have passed.
-    void After(int milliseconds, std::function<void()> work) {
-        Poll(clock.Milliseconds() + milliseconds, std::move(work));
+    // The rounds from now on, for so many ms.
+    void Fade_For(int milliseconds) {
+        fades.TransparencyHandler();
+        clock.Advance(milliseconds);
+    }
+    void Fade_ToTheEnd() {
+        Fade_For(700);
+        EXPECT_FALSE(fades.IsRunning());
+        EXPECT_EQ(fades.Last_Index(), -1);
     }
 
     FakeClock clock;
     RecordingWindows windows;
     Timers timers;
     TransparencyClass fades;
-
-private:
-    void Poll(std::int32_t when, std::function<void()> work) {
-        QTimer::singleShot(0, &poller, [this, when, work = std::move(work)] {
-            if (clock.Milliseconds_Since(when) >= 0) {
-                work();
-            } else {
-                Poll(when, work);
-            }
-        });
-    }
-    QObject poller;
 };
 
 TEST_F(Transparency, A_window_comes_up_faint_gets_stronger_and_ends_without_any_layer) {
@@ -82,14 +74,17 @@ TEST_F(Transparency, A_window_comes_up_faint_gets_stronger_and_ends_without_any_
     fades.DoFadeIn(&window);
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(State_Of(window).alpha, 1);
+    Fade_For(0);
+    EXPECT_EQ(State_Of(window).alpha, 2) << "one round, and back to the event loop";
     fades.TransparencyHandler();
+    EXPECT_EQ(State_Of(window).alpha, 2) << "the rounds run already";
+    Fade_ToTheEnd();
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(State_Of(window).alpha, std::nullopt);
     // A round every 3 ms: after 600 ms the end is forced.
     const auto& alphas = State_Of(window).alphas;
     ASSERT_EQ(alphas.size(), 202U);
     EXPECT_EQ(alphas.back(), 202);
-    EXPECT_EQ(fades.Last_Index(), -1);
 }
 
 TEST_F(Transparency, A_window_that_fades_out_turns_round_where_it_stands) {
@@ -97,15 +92,15 @@ TEST_F(Transparency, A_window_that_fades_out_turns_round_where_it_stands) {
     window.show();
     window.setEnabled(false);
     fades.DoFadeOut(&window);
-    After(30, [&] {
-        EXPECT_TRUE(fades.IsRunning());
-        EXPECT_TRUE(fades.Is_FadingOut(&window));
-        fades.DoFadeIn(&window);
-        EXPECT_FALSE(fades.Is_FadingOut(&window));
-        EXPECT_EQ(fades.Last_Index(), 0);
-    });
-    After(60, [&] { fades.DoFadeOut(&window); });
-    fades.TransparencyHandler();
+    Fade_For(29);
+    EXPECT_TRUE(fades.IsRunning());
+    EXPECT_TRUE(fades.Is_FadingOut(&window));
+    fades.DoFadeIn(&window);
+    EXPECT_FALSE(fades.Is_FadingOut(&window));
+    EXPECT_EQ(fades.Last_Index(), 0);
+    clock.Advance(30);
+    fades.DoFadeOut(&window);
+    Fade_ToTheEnd();
     const auto& alphas = State_Of(window).alphas;
     EXPECT_EQ(alphas.front(), 254);
     EXPECT_EQ(alphas[10], 244);
@@ -124,13 +119,12 @@ TEST_F(Transparency, A_hundred_and_fifty_windows_fade_at_once_each_to_its_own_en
         goesOut ? fades.DoFadeOut(all.back().get()) : fades.DoFadeIn(all.back().get());
     }
     EXPECT_EQ(fades.Last_Index(), 149);
-    After(100, [&] {
-        all[0].reset(); // destroyed on its way, first and last of the list
-        all[149].reset();
-        fades.DeleteHWNDfromList(all[1]->winId(), Layering::Remove, FadeEnd::KeepForm);
-        EXPECT_EQ(fades.Last_Index(), 148);
-    });
-    fades.TransparencyHandler();
+    Fade_For(100);
+    all[0].reset(); // destroyed on its way, first and last of the list
+    all[149].reset();
+    fades.DeleteHWNDfromList(all[1]->winId(), Layering::Remove, FadeEnd::KeepForm);
+    EXPECT_EQ(fades.Last_Index(), 148);
+    Fade_ToTheEnd();
     for (std::size_t i = 1; i < 149; ++i) {
         EXPECT_EQ(all[i]->isVisible(), i % 3 != 0) << i;
         EXPECT_EQ(State_Of(*all[i]).alpha, std::nullopt) << i;
@@ -147,7 +141,7 @@ TEST_F(Transparency, A_dear_update_makes_larger_steps) {
     cheap.show();
     fades.DoFadeOut(&cheap);
     fades.DoFadeIn(&dear);
-    fades.TransparencyHandler();
+    Fade_ToTheEnd();
     EXPECT_EQ(State_Of(dear).alphas[1], 21);
     EXPECT_EQ(State_Of(cheap).alphas[1], 234);
 }
@@ -159,12 +153,13 @@ TEST_F(Transparency, A_form_with_its_own_way_to_hide_takes_it) {
     } menu;
     menu.show();
     fades.DoFadeOut(&menu, &menu);
-    fades.TransparencyHandler();
+    Fade_ToTheEnd();
     EXPECT_EQ(menu.hidden, 1);
     EXPECT_TRUE(menu.isVisible());
 }
 
-TEST_F(Transparency, The_timer_starts_one_loop_for_a_list_that_is_not_empty) {
+TEST_F(Transparency, The_timer_starts_the_rounds_of_a_list_that_is_not_empty_even_under_a_box) {
+    timers.On_Tick(TimerName::TransHandlerTimer, [this] { fades.TransparencyHandler(); });
     fades.Enable_TC_Timer();
     EXPECT_FALSE(timers.Is_Enabled(TimerName::TransHandlerTimer));
     QWidget window;
@@ -172,19 +167,17 @@ TEST_F(Transparency, The_timer_starts_one_loop_for_a_list_that_is_not_empty) {
     fades.Enable_TC_Timer();
     EXPECT_TRUE(timers.Is_Enabled(TimerName::TransHandlerTimer));
     timers.Enable(TimerName::TransHandlerTimer, false);
-    After(10, [&] {
+    ScriptedDialogs dialogs;
+    dialogs.whileOpen = [&](const ScriptedDialogs::Box&) {
+        timers.Tick(TimerName::TransHandlerTimer);
         fades.Enable_TC_Timer();
-        EXPECT_FALSE(timers.Is_Enabled(TimerName::TransHandlerTimer));
-        fades.TransparencyHandler(); // returns at once
-        EXPECT_TRUE(fades.IsRunning());
-        EXPECT_EQ(fades.Last_Index(), 0);
-    });
-    After(20, [] { Set_Program_Ending(true); });
-    const std::int32_t start = clock.Milliseconds();
-    fades.TransparencyHandler();
-    EXPECT_LT(clock.Milliseconds_Since(start), 30);
+        EXPECT_FALSE(timers.Is_Enabled(TimerName::TransHandlerTimer)) << "they run already";
+        clock.Advance(700);
+        EXPECT_EQ(State_Of(window).alpha, std::nullopt);
+    };
+    dialogs.Expect_Message(QStringLiteral("Error"), platform::BoxStyle::Critical);
+    dialogs.Message(QStringLiteral("Error"), platform::BoxStyle::Critical);
     EXPECT_FALSE(fades.IsRunning());
-    EXPECT_EQ(fades.Last_Index(), -1);
 }
 
 } // namespace

@@ -34,13 +34,8 @@ struct FakeLine : MessageLine {
 struct FakeToolbar : Toolbar {
     int shown = 0;
     ToolbarRect bounds;
-    std::function<void()> whileShowing; // what a fade lets run
 
-    void AutoHide_ShowProc(bool /*skipFade*/) override {
-        ++shown;
-        if (whileShowing)
-            std::exchange(whileShowing, nullptr)();
-    }
+    void AutoHide_ShowProc(bool /*skipFade*/) override { ++shown; }
     ToolbarRect Bounds() const override { return bounds; }
     void Move_To(int /*left*/, int /*top*/) override {}
     bool Toolbar_Visible() const override { return true; }

@@ -224,14 +224,13 @@ TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
     const platform::WindowId closing = Near_Window(0)->winId();
     const platform::WindowId staying = Near_Window(1)->winId();
     EXPECT_EQ(windows.windows[staying].alpha, 1);
-    QTimer::singleShot(0, [this] {
-        EXPECT_TRUE(Global_Transparency().IsRunning());
-        QTest::keyClick(Near_Window(0), Qt::Key_Escape);
-        Unload_PendingForms();
-        delete Centered_Window();
-        Deliver_Reminder(0); // fires again: a new window in the place of the old one
-    });
     Global_Transparency().TransparencyHandler();
+    EXPECT_TRUE(Global_Transparency().IsRunning());
+    QTest::keyClick(Near_Window(0), Qt::Key_Escape);
+    Unload_PendingForms();
+    delete Centered_Window();
+    Deliver_Reminder(0); // fires again: a new window in the place of the old one
+    clock.Advance(700);
     EXPECT_EQ(Global_Transparency().Last_Index(), -1);
     EXPECT_FALSE(windows.windows[closing].alpha.has_value());
     EXPECT_FALSE(windows.windows[staying].alpha.has_value());

@@ -133,21 +133,4 @@ TEST_F(MessageQueue, Texts_of_any_length_are_measured_once_and_the_table_grows) 
     EXPECT_EQ(line.measured, 32);
 }
 
-TEST_F(MessageQueue, What_runs_inside_the_fade_of_the_toolbar_does_no_harm) {
-    Show(u"one"_s);
-    Show(u"two"_s);
-    Tick();
-    Message_Ok(Global_CurrentMessage);
-    toolbar.whileShowing = [this] {
-        Message_Ok(Global_CurrentMessage);
-        Tick(); // ends the second too, and stops the timer
-        EXPECT_FALSE(Timer_Runs());
-        for (int i = 0; i < 30; ++i)
-            Show(u"late"_s); // moves the table
-    };
-    Tick();
-    EXPECT_TRUE(Timer_Runs());
-    EXPECT_EQ(Next_Texts(1), u"late"_s);
-}
-
 } // namespace

@@ -13,17 +13,22 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(Clock, waiting_moves_both_clocks_of_every_kind) {
-    FakeClock fake;
-    const auto system = platform::Make_Clock();
-    for (platform::Clock* clock : {static_cast<platform::Clock*>(&fake), system.get()}) {
-        const std::int32_t start = clock->Milliseconds();
-        clock->Wait(20);
+TEST(Clock, what_is_to_be_called_later_comes_in_its_time_and_goes_with_its_context) {
+    const auto clock = platform::Make_Clock();
+    QObject context;
+    auto gone = std::make_unique<QObject>();
+    QString called;
+    const std::int32_t start = clock->Milliseconds();
+    clock->Call_Later(40, &context, [&] { called += u'b'; });
+    clock->Call_Later(20, &context, [&] {
         EXPECT_GE(clock->Milliseconds_Since(start), 20);
-        clock->Wait(-1);
-        clock->Wait(0);
-        EXPECT_LT(clock->Milliseconds_Since(start), 10'000);
-    }
+        called += u'a';
+    });
+    clock->Call_Later(10, gone.get(), [&] { called += u'x'; });
+    gone.reset();
+    while (called.size() < 2 && clock->Milliseconds_Since(start) < 10'000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(called, u"ab"_s);
 }
 
 TEST(Clock, a_measurement_crosses_the_end_of_the_counter) {

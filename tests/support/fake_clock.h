@@ -1,9 +1,15 @@
-// A clock that stands still until a test moves it, or somebody waits.
+// A clock that stands still until a test moves it. What was to be called later is called as it
+// moves on, each at its own time.
 #pragma once
 
 #include "platform/clock.h"
 
 #include <QDateTime>
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 class FakeClock : public platform::Clock {
 public:
@@ -15,9 +21,24 @@ public:
     }
     // Moves both clocks on.
     void Advance(qint64 milliseconds) {
-        now = now.addMSecs(milliseconds);
-        ticks += static_cast<std::uint32_t>(milliseconds);
+        const qint64 end = passed + milliseconds;
+        const auto sooner = [](const Later& a, const Later& b) { return a.due < b.due; };
+        for (;;) {
+            const auto next = std::min_element(later.begin(), later.end(), sooner);
+            if (next == later.end() || next->due > end) {
+                break;
+            }
+            const Later call = *next;
+            later.erase(next);
+            Pass_To(call.due);
+            if (call.context) {
+                call.work();
+            }
+        }
+        Pass_To(end);
     }
+    // Moves both on as a machine that hangs does: whoever was to be called is late.
+    void Pass(qint64 milliseconds) { Pass_To(passed + milliseconds); }
     // Moves the wall clock alone, as a person or a zone change does.
     void Jump(qint64 seconds) { now = now.addSecs(seconds); }
     void Set_Milliseconds(std::int32_t value) { ticks = static_cast<std::uint32_t>(value); }
@@ -29,10 +50,28 @@ public:
                 time.minute(), time.second(), time.msec()};
     }
     std::int32_t Milliseconds() override { return static_cast<std::int32_t>(ticks); }
-    void Wait(int milliseconds) override { Advance(milliseconds); }
+    void Call_Later(int milliseconds, QObject* context, std::function<void()> work) override {
+        later.push_back({passed + std::max(milliseconds, 0), context, std::move(work)});
+    }
 
 private:
+    struct Later {
+        qint64 due = 0;
+        QPointer<QObject> context;
+        std::function<void()> work;
+    };
+
+    // Work that is called may have moved the clock further already.
+    void Pass_To(qint64 time) {
+        const qint64 step = std::max(time - passed, qint64{0});
+        passed += step;
+        now = now.addMSecs(step);
+        ticks += static_cast<std::uint32_t>(step);
+    }
+
     platform::Clock* before;
     QDateTime now{QDate(2026, 3, 2), QTime(9, 0), Qt::UTC};
     std::uint32_t ticks = 1000;
+    qint64 passed = 0; // since the test began
+    std::vector<Later> later;
 };

@@ -15,13 +15,15 @@ protected:
         timers.Start_FirstTimers();
     }
 
-    // Runs the work while somebody handles events, once so many ms of the clock have passed.
-    void After(int milliseconds, std::function<void()> work) {
-        Poll(clock.Milliseconds() + milliseconds, std::move(work));
+    // Hides, and lets the hide run for so long.
+    void Hide(HideMode mode, int milliseconds = 1100) {
+        form.AutoHide_HideProc(mode, false);
+        timers.Tick(TimerName::TransHandlerTimer);
+        clock.Advance(milliseconds);
     }
-    // Handles events until all fades are over.
     void Let_Fade() {
         timers.Tick(TimerName::TransHandlerTimer);
+        clock.Advance(700);
         EXPECT_FALSE(Global_Transparency().IsRunning());
     }
     void Expect_Shown(const QRect& place) {
@@ -36,48 +38,36 @@ protected:
 
     static constexpr QRect Home{100, 50, 333, 20};
     bool linksMenu = false;
-
-private:
-    void Poll(std::int32_t when, std::function<void()> work) {
-        QTimer::singleShot(0, &form, [this, when, work = std::move(work)] {
-            if (clock.Milliseconds_Since(when) >= 0) {
-                work();
-            } else {
-                Poll(when, work);
-            }
-        });
-    }
 };
 
 TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brings_the_strip_back) {
     struct Case {
         const char* name;
         HideMode mode;
+        QRect second; // after its second round
         QRect rest;
         int longest; // ms
     };
     const Case cases[] = {
-        {"to the top", HideMode::Top, {100, 50, 333, 8}, 330},
-        {"to the left", HideMode::Left, {100, 50, 10, 20}, 1030},
-        {"to the right", HideMode::Right, {423, 50, 10, 20}, 1030},
-        {"to the bottom", HideMode::Bottom, {100, 62, 333, 8}, 330},
+        {"to the top", HideMode::Top, {100, 50, 333, 18}, {100, 50, 333, 8}, 330},
+        {"to the left", HideMode::Left, {100, 50, 293, 20}, {100, 50, 10, 20}, 1030},
+        {"to the right", HideMode::Right, {140, 50, 293, 20}, {423, 50, 10, 20}, 1030},
+        {"to the bottom", HideMode::Bottom, {100, 52, 333, 18}, {100, 62, 333, 8}, 330},
     };
     for (const bool isSlow : {false, true}) {
         for (const Case& c : cases) {
             SCOPED_TRACE(c.name);
-            const std::int32_t start = clock.Milliseconds();
+            Hide(c.mode, 45);
+            EXPECT_EQ(Place(), c.second);
+            EXPECT_TRUE(form.IsHiding());
+            EXPECT_TRUE(form.Picture2->isVisible());
+            form.AutoHide_HideProc(HideMode::TrayIcon, true); // one at a time
             if (isSlow) {
-                After(35, [this] { clock.Advance(2000); });
+                clock.Pass(2000);
             }
-            After(45, [this] {
-                EXPECT_TRUE(form.IsHiding());
-                EXPECT_TRUE(form.Picture2->isVisible());
-                form.AutoHide_HideProc(HideMode::TrayIcon, true); // one at a time
-            });
-            form.AutoHide_HideProc(c.mode, false);
+            clock.Advance(isSlow ? 30 : c.longest - 45);
             EXPECT_EQ(Place(), c.rest);
             EXPECT_EQ(form.Picture2->geometry(), QRect(QPoint(), c.rest.size()));
-            EXPECT_LE(clock.Milliseconds_Since(start), c.longest + (isSlow ? 2000 : 0));
             EXPECT_FALSE(form.Toolbar_Visible());
             EXPECT_FALSE(form.IsHiding());
             EXPECT_EQ(form.Line_Width(), 112);
@@ -93,6 +83,7 @@ TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brin
 
 TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
     QTest::mouseClick(form.wbButton1, Qt::LeftButton);
+    clock.Advance(400);
     EXPECT_EQ(Place(), QRect(100, 50, 333, 8));
     EXPECT_EQ(Spoken_Name(form.Picture2), u"Click here to show the toolbar"_s);
     EXPECT_EQ(form.Picture2->Face_Color().name(), u"#e0e0e0"_s);
@@ -107,43 +98,19 @@ TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
 
 TEST_F(AutoHideTest, A_show_in_the_middle_of_a_collapse_ends_where_the_strip_was) {
     for (const HideMode mode : {HideMode::Top, HideMode::Left, HideMode::Right, HideMode::Bottom}) {
-        After(100, [this] {
-            EXPECT_NE(Place(), Home);
-            EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
-            form.AutoHide_ShowProc(false);
-        });
-        form.AutoHide_HideProc(mode, false);
+        Hide(mode, 100);
+        EXPECT_NE(Place(), Home);
+        EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
+        form.AutoHide_ShowProc(false);
+        clock.Advance(2000);
         Expect_Shown(Home);
     }
-    // A hide inside the show of a hide: the last word counts.
-    After(100, [this] {
-        form.AutoHide_ShowProc(false);
-        form.AutoHide_HideProc(HideMode::Bottom, false);
-    });
-    form.AutoHide_HideProc(HideMode::Left, false);
+    // The last word counts.
+    Hide(HideMode::Left, 100);
+    form.AutoHide_ShowProc(false);
+    Hide(HideMode::Bottom);
     EXPECT_EQ(Place(), QRect(100, 62, 333, 8));
     EXPECT_FALSE(form.IsHiding());
-}
-
-TEST_F(AutoHideTest, The_end_of_the_program_stops_a_collapse_and_a_fade_where_they_are) {
-    After(100, [] { Set_Program_Ending(true); });
-    form.AutoHide_HideProc(HideMode::Left, false);
-    EXPECT_GT(form.width(), 10);
-    EXPECT_FALSE(form.IsHiding());
-    form.AutoHide_ShowProc(false);
-    form.AutoHide_HideProc(HideMode::Top, false);
-    EXPECT_GT(form.width(), 10);
-    EXPECT_EQ(form.height(), 20);
-
-    Set_Program_Ending(false);
-    form.AutoHide_ShowProc(true);
-    Global_UseTransparency = true;
-    After(100, [] { Set_Program_Ending(true); });
-    form.AutoHide_HideProc(HideMode::TrayIcon, false);
-    const std::int32_t start = clock.Milliseconds();
-    Let_Fade();
-    EXPECT_LT(clock.Milliseconds_Since(start), 120);
-    EXPECT_EQ(form.Live_Bounds(), (TwipsRect{1500, 750, 4995, 300}));
 }
 
 TEST_F(AutoHideTest, A_guarded_strip_stays_and_only_the_close_button_says_why) {
@@ -185,13 +152,14 @@ TEST_F(AutoHideTest, It_hides_by_itself_when_the_mouse_has_been_away_long_enough
     EXPECT_FALSE(tick(0));
     Global_Autohide_Enabled = true;
     EXPECT_TRUE(tick(0));
-    EXPECT_EQ(Place(), QRect(100, 50, 10, 20)); // left of the middle
     EXPECT_TRUE(tick(1000));
+    EXPECT_EQ(Place(), QRect(100, 50, 10, 20)); // left of the middle
 
     form.AutoHide_ShowProc(false);
     EXPECT_FALSE(tick(5999)); // a second more than the wait time
     Global_Autohide_SelectedHideMode = 3;
     EXPECT_TRUE(tick(1));
+    clock.Advance(400);
     EXPECT_EQ(Place(), QRect(100, 62, 333, 8));
 }
 
@@ -236,7 +204,7 @@ TEST_F(AutoHideTest, Hidden_completely_it_comes_back_by_its_icon_and_the_icon_s_
 }
 
 TEST_F(AutoHideTest, Hiding_a_collapsed_strip_restores_it_first) {
-    form.AutoHide_HideProc(HideMode::Left, false);
+    Hide(HideMode::Left);
     QTest::mouseRelease(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier, {5, 5});
     Q_EMIT form.wbButton1->Click();
     EXPECT_FALSE(form.isVisible());
@@ -251,6 +219,7 @@ TEST_F(AutoHideTest, Without_a_tray_the_thin_strip_is_what_stays) {
     form.Move_To(700, 10);
     clock.Advance(6000);
     timers.Tick(TimerName::AutoHideTimer);
+    clock.Advance(400);
     EXPECT_EQ(Place(), QRect(700, 10, 333, 8));
     EXPECT_EQ(tray.added, 0);
     EXPECT_EQ(done, QStringList());
@@ -264,8 +233,7 @@ TEST_F(AutoHideTest, It_fades_into_the_tray_taking_no_input_and_can_turn_round) 
     form.AutoHide_HideProc(HideMode::TrayIcon, false);
     EXPECT_TRUE(tray.icon);
     EXPECT_FALSE(form.isEnabled());
-    EXPECT_TRUE(form.IsHiding()); // the loop has not begun yet
-    After(150, [this] { EXPECT_TRUE(form.IsHiding()); });
+    EXPECT_TRUE(form.IsHiding()); // the rounds have not begun yet
     Let_Fade();
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(form.isEnabled());
@@ -280,22 +248,20 @@ TEST_F(AutoHideTest, It_fades_into_the_tray_taking_no_input_and_can_turn_round) 
 
     // A message comes in the middle of the fade.
     state.alphas.clear();
-    form.AutoHide_HideProc(HideMode::TrayIcon, false);
-    int turned = 0;
-    After(150, [&] {
-        turned = state.alpha.value();
-        form.AutoHide_ShowProc(false);
-        EXPECT_EQ(state.alpha, turned);
-        EXPECT_TRUE(form.isEnabled());
-    });
-    Let_Fade();
+    Hide(HideMode::TrayIcon, 149);
+    const int turned = state.alpha.value();
     EXPECT_EQ(turned, 254 - 50); // a step every 3 ms
+    EXPECT_TRUE(form.IsHiding());
+    form.AutoHide_ShowProc(false);
+    EXPECT_EQ(state.alpha, turned);
+    EXPECT_TRUE(form.isEnabled());
+    Let_Fade();
     EXPECT_EQ(*std::min_element(state.alphas.begin(), state.alphas.end()), turned);
     Expect_Shown(Home);
 
     // The same without a fade back.
-    form.AutoHide_HideProc(HideMode::TrayIcon, false);
-    After(150, [this] { form.AutoHide_ShowProc(true); });
+    Hide(HideMode::TrayIcon, 150);
+    form.AutoHide_ShowProc(true);
     Let_Fade();
     Expect_Shown(Home);
     EXPECT_EQ(state.alpha, std::nullopt);
@@ -305,12 +271,11 @@ TEST_F(AutoHideTest, The_fade_of_another_window_holds_off_a_hide_and_leaves_a_sh
     QWidget other;
     Global_UseTransparency = true;
     Global_Transparency().DoFadeIn(&other);
-    After(30, [this] {
-        EXPECT_TRUE(form.IsHiding());
-        form.AutoHide_HideProc(HideMode::Top, false);
-        form.AutoHide_ShowProc(false);
-        EXPECT_EQ(Place(), Home);
-    });
+    timers.Tick(TimerName::TransHandlerTimer);
+    EXPECT_TRUE(form.IsHiding());
+    form.AutoHide_HideProc(HideMode::Top, false);
+    form.AutoHide_ShowProc(false);
+    EXPECT_EQ(Place(), Home);
     Let_Fade();
     Expect_Shown(Home);
     EXPECT_EQ(windows.windows[form.winId()].alphas.size(), 0U);
@@ -318,20 +283,16 @@ TEST_F(AutoHideTest, The_fade_of_another_window_holds_off_a_hide_and_leaves_a_sh
 
 TEST_F(AutoHideTest, A_storm_of_clicks_leaves_a_strip_that_answers) {
     Global_UseTransparency = true;
-    const auto storm = [this] {
+    for (int wait = 0; wait < 400; wait += 23) {
         QTest::mouseClick(form.wbButton1, Qt::LeftButton);
         QTest::mouseClick(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier);
         QTest::mouseClick(form.Picture2, Qt::LeftButton);
         if (tray.icon) {
             tray.Click();
         }
-    };
-    for (int milliseconds = 0; milliseconds < 400; milliseconds += 23) {
-        After(milliseconds, storm);
+        timers.Tick(TimerName::TransHandlerTimer);
+        clock.Advance(wait);
     }
-    storm();
-    clock.Advance(400);
-    QCoreApplication::processEvents();
     Let_Fade();
     form.AutoHide_ShowProc(true);
     Let_Fade();

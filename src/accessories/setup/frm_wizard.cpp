@@ -2,7 +2,6 @@
 #include "accessories/setup/frm_wizard.h"
 
 #include "accessories/help/help.h"
-#include "accessories/setup/hide_test.h"
 #include "accessories/setup/setup.h"
 #include "controls/chk_box.h"
 #include "controls/program_end.h"
@@ -126,28 +125,25 @@ void frmWizard::Enable_Buttons(bool enabled) {
 }
 
 void frmWizard::TestHideButton_Click() {
-    if (testing || Is_Unloading() || Program_Is_Ending())
+    if (hideTest.Is_Running() || Is_Unloading() || Program_Is_Ending())
         return;
-    const QPointer<frmWizard> alive(this);
-    const auto isOpen = [alive] { return alive != nullptr && !alive->Is_Unloading(); };
     // Asked for by the place alone: the selected mode may still be the other one.
     const HideMode mode =
         Option2[0]->isChecked() ? HideMode::TrayIcon : Global_Toolbar->Get_Best_Auto_HideMode(true);
-    testing = true;
     Enable_Buttons(false);
     Global_Toolbar->Lift_HideGuard();
-    Run_HideTest(*Global_Toolbar, mode, isOpen);
-    if (!isOpen() || Program_Is_Ending())
-        return;
-    Guard_Toolbar();
-    testing = false;
-    Enable_Buttons(true);
-    TestHideButton->setFocus();
+    hideTest.Start(*Global_Toolbar, mode, [this] {
+        Guard_Toolbar();
+        Enable_Buttons(true);
+        TestHideButton->setFocus();
+    });
 }
 
 void frmWizard::Restore_Toolbar() {
-    if (testing)
+    if (hideTest.Is_Running()) {
+        hideTest.Cancel();
         Global_Toolbar->AutoHide_ShowProc(true);
+    }
     Global_Toolbar->Move_To(remembered.x, remembered.y);
 }
 

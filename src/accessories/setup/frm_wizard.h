@@ -2,6 +2,7 @@
 // chosen; nothing is stored before "Finish".
 #pragma once
 
+#include "accessories/setup/hide_test.h"
 #include "accessories/setup/setup_rules.h"
 #include "controls/form.h"
 
@@ -61,5 +62,5 @@ private:
     int currentPage = 0;
     platform::Point remembered; // of the toolbar, pixels
     bool finishing = false;
-    bool testing = false;
+    HideTest hideTest;
 };

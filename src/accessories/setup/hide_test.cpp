@@ -1,9 +1,8 @@
 #include "accessories/setup/hide_test.h"
 
-#include "controls/program_end.h"
 #include "platform/clock.h"
 
-#include <QCoreApplication>
+#include <utility>
 
 namespace {
 
@@ -12,15 +11,25 @@ constexpr int WaitStep = 10;   // ms
 
 } // namespace
 
-void Run_HideTest(Toolbar& toolbar, HideMode mode, const std::function<bool()>& wanted) {
-    platform::Clock& clock = platform::Clock::Get();
-    toolbar.AutoHide_HideProc(mode, false);
-    const std::int32_t start = clock.Milliseconds();
-    while (!Program_Is_Ending() && wanted() && !toolbar.Toolbar_Visible() &&
-           clock.Milliseconds_Since(start) < TestTime) {
-        QCoreApplication::processEvents();
-        clock.Wait(WaitStep);
+void HideTest::Start(Toolbar& hidden, HideMode mode, std::function<void()> ended) {
+    toolbar = &hidden;
+    onEnd = std::move(ended);
+    start = platform::Clock::Get().Milliseconds();
+    toolbar->AutoHide_HideProc(mode, false);
+    Step();
+}
+
+void HideTest::Step() {
+    if (!toolbar->Toolbar_Visible() &&
+        platform::Clock::Get().Milliseconds_Since(start) < TestTime) {
+        timer.Start(WaitStep, [this] { Step(); });
+        return;
     }
-    if (!Program_Is_Ending())
-        toolbar.AutoHide_ShowProc(false);
+    std::exchange(toolbar, nullptr)->AutoHide_ShowProc(false);
+    onEnd();
+}
+
+void HideTest::Cancel() {
+    timer.Stop();
+    toolbar = nullptr;
 }

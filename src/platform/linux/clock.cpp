@@ -2,8 +2,10 @@
 
 #include "platform/providers.h"
 
-#include <cerrno>
+#include <QTimer>
+
 #include <ctime>
+#include <utility>
 
 namespace platform {
 
@@ -34,13 +36,8 @@ public:
         return static_cast<std::int32_t>(static_cast<std::uint32_t>(passed));
     }
 
-    void Wait(int milliseconds) override {
-        if (milliseconds <= 0) {
-            return;
-        }
-        timespec left{milliseconds / 1000, (milliseconds % 1000) * 1'000'000L};
-        while (nanosleep(&left, &left) != 0 && errno == EINTR) {
-        }
+    void Call_Later(int milliseconds, QObject* context, std::function<void()> work) override {
+        QTimer::singleShot(milliseconds, Qt::PreciseTimer, context, std::move(work));
     }
 };
 

@@ -5,8 +5,6 @@
 
 #include <QStringList>
 
-#include <functional>
-
 class FakeToolbar : public Toolbar {
 public:
     FakeToolbar() : before(Global_Toolbar) { Global_Toolbar = this; }
@@ -15,8 +13,7 @@ public:
     ToolbarRect bounds{400, 0, 733, 20};
     QString guard;
     bool visible = true;
-    QStringList steps;                 // what was asked, in order
-    std::function<void()> whileHiding; // what the animation lets run
+    QStringList steps; // what was asked, in order
 
     ToolbarRect Bounds() const override { return bounds; }
     void Move_To(int left, int top) override {
@@ -29,8 +26,6 @@ public:
             return;
         steps.append(QStringLiteral("hide %1").arg(static_cast<int>(mode)));
         visible = false;
-        if (whileHiding)
-            whileHiding();
     }
     void AutoHide_ShowProc(bool /*skipFade*/) override {
         if (!visible)

@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -97,14 +96,9 @@ TEST_F(SetupWizard, MovesTheToolbarAtOnceAndPutsItBackWhenItIsClosed) {
 }
 
 TEST_F(SetupWizard, TheHideTestLiftsTheGuardForItsTimeOnly) {
-    const auto test = [this](const std::function<void()>& meanwhile) {
-        const std::int32_t start = system.clock.Milliseconds();
-        QTimer::singleShot(0, Window(), meanwhile);
-        toolbar.steps.clear();
-        Window()->TestHideButton_Click();
-        EXPECT_EQ(toolbar.guard, Guard);
-        EXPECT_TRUE(Find<wbButton>(u"Test"_s)->isEnabled());
-        return system.clock.Milliseconds_Since(start);
+    const auto isOver = [this] {
+        EXPECT_EQ(toolbar.guard.isEmpty(), !Find<wbButton>(u"Next >"_s)->isEnabled());
+        return toolbar.guard == Guard && Find<wbButton>(u"Test"_s)->isEnabled();
     };
     for (const auto& [label, step] :
          {std::pair(u"Click the tray icon to show the toolbar."_s, u"hide 4"_s),
@@ -112,37 +106,34 @@ TEST_F(SetupWizard, TheHideTestLiftsTheGuardForItsTimeOnly) {
            "it will set it back to its normal size."_s,
            u"hide 2"_s}}) {
         QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton);
-        EXPECT_EQ(test([this] {
-                      EXPECT_TRUE(toolbar.guard.isEmpty());
-                      EXPECT_FALSE(Find<wbButton>(u"Test"_s)->isEnabled());
-                      EXPECT_FALSE(Find<wbButton>(u"Next >"_s)->isEnabled());
-                  }),
-                  2500);
+        toolbar.steps.clear();
+        Window()->TestHideButton_Click();
+        system.clock.Advance(2499);
+        EXPECT_FALSE(isOver());
+        system.clock.Advance(1);
+        EXPECT_TRUE(isOver());
         EXPECT_EQ(toolbar.steps, QStringList({step, u"show"_s}));
     }
-    EXPECT_LT(test([this] { toolbar.AutoHide_ShowProc(false); }), 100)
-        << "somebody who brings the toolbar back has seen enough";
+    Window()->TestHideButton_Click();
+    toolbar.AutoHide_ShowProc(false);
+    system.clock.Advance(10);
+    EXPECT_TRUE(isOver()) << "somebody who brings the toolbar back has seen enough";
 }
 
 TEST_F(SetupWizard, MayBeClosedOrEndedInTheMiddleOfTheTest) {
-    toolbar.Move_To(10, 20);
-    toolbar.whileHiding = [] {
-        Window()->close();
+    for (const bool isEnd : {false, true}) {
+        Show_SetupWizard();
+        toolbar.Move_To(10, 20);
+        Window()->TestHideButton_Click();
+        system.clock.Advance(100);
+        Set_Program_Ending(isEnd);
+        isEnd ? Drop_SetupWizard() : void(Window()->close());
         Unload_PendingForms();
-    };
-    Window()->TestHideButton_Click();
-    EXPECT_TRUE(toolbar.visible);
-    EXPECT_TRUE(toolbar.guard.isEmpty());
-    EXPECT_EQ(Place(), QPoint(400, 0));
-
-    Show_SetupWizard();
-    toolbar.Move_To(5, 5);
-    toolbar.whileHiding = [] { Set_Program_Ending(true); };
-    const std::int32_t start = system.clock.Milliseconds();
-    Window()->TestHideButton_Click();
-    EXPECT_EQ(system.clock.Milliseconds(), start) << "the end does not wait";
-    Drop_SetupWizard();
-    EXPECT_EQ(Place(), QPoint(400, 0)) << "its place is what the settings keep";
+        system.clock.Advance(3000);
+        EXPECT_TRUE(toolbar.visible);
+        EXPECT_TRUE(toolbar.guard.isEmpty());
+        EXPECT_EQ(Place(), QPoint(400, 0)) << "its place is what the settings keep";
+    }
 }
 
 TEST_F(SetupWizard, ComesByItselfAtTheFirstStartOnly) {

@@ -82,6 +82,10 @@ protected:
         other.start(10);
         EXPECT_TRUE(QTest::qWaitFor([&] { return ticks > 4; }));
     }
+    void Fade(int milliseconds) {
+        Global_Transparency().TransparencyHandler();
+        system.clock.Advance(milliseconds);
+    }
     static LinksMenuV2* Wait_ForChild(LinksMenuV2* form) {
         EXPECT_TRUE(QTest::qWaitFor(
             [&] { return form->Child_Form() != nullptr && form->Child_Form()->Is_Open(); }));
@@ -177,21 +181,21 @@ TEST_F(LinksMenu, With_fades_a_child_goes_slowly_and_can_be_called_back) {
     EXPECT_EQ(system.windows.windows[root->winId()].alpha, 1);
     Click(root, 0);
     LinksMenuV2* child = root->Child_Form();
-    Global_Transparency().TransparencyHandler();
+    Fade(700);
     Move_To(root, 2);
     EXPECT_TRUE(child->isVisible() && !child->Is_Open());
     EXPECT_TRUE(Global_Transparency().Is_FadingOut(child));
     Click(root, 0);
     EXPECT_TRUE(child->Is_Open() && !Global_Transparency().Is_FadingOut(child));
     Move_To(root, 2);
-    Global_Transparency().TransparencyHandler();
+    Fade(700);
     EXPECT_FALSE(child->isVisible());
     Rest_At(700, 700);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !root->Is_Open(); }));
     EXPECT_TRUE(LinksMenu_Visible() && gone == 0);
     // The list is applied in the middle of the fade.
-    QTimer::singleShot(0, [] { Load_Global_LinksArray(); });
-    Global_Transparency().TransparencyHandler();
+    Fade(100);
+    Load_Global_LinksArray();
     EXPECT_EQ(gone, 1);
     EXPECT_EQ(Global_Transparency().Last_Index(), -1);
     EXPECT_FALSE(timers.Is_Enabled(TimerName::Win98HideForms));
