@@ -12,6 +12,9 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <functional>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,17 +48,18 @@ int Ask(QMenu& menu, const QPoint& where) {
     return picked == nullptr ? -1 : picked->data().toInt();
 }
 
-// Nothing when the user cancels, or the file could not hold the name.
-std::optional<QString> Ask_Name(const QString& prompt, const QString& title, const QString& name) {
-    std::optional<QString> answer = platform::Dialogs::Get().Input(prompt, title, name);
-    if (!answer || answer->isEmpty() || Program_Is_Ending())
-        return std::nullopt;
-    if (!Fits_RecString(answer->trimmed())) {
-        platform::Dialogs::Get().Message(u"The name is too long."_s,
-                                         platform::BoxStyle::Exclamation);
-        return std::nullopt;
-    }
-    return answer;
+// taken: called with a name that the file can hold, unless the user cancels.
+void Ask_Name(frmNotesEditor* form, const QString& title, const QString& name,
+              std::function<void(const QString&)> taken) {
+    platform::Dialogs::Get().Input(form, u"Insert the new category name:"_s, title, name,
+                                   [taken = std::move(taken)](const QString& answer) {
+                                       if (!Fits_RecString(answer.trimmed()))
+                                           platform::Dialogs::Get().Message(
+                                               u"The name is too long."_s,
+                                               platform::BoxStyle::Exclamation);
+                                       else if (!answer.isEmpty())
+                                           taken(answer);
+                                   });
 }
 
 // Both questions are about what cannot be taken back: Enter keeps it.
@@ -98,13 +102,10 @@ void frmNotesEditor::Add_Category() {
                                          platform::BoxStyle::Exclamation);
         return;
     }
-    const Still_There still(this);
-    const auto name =
-        Ask_Name(u"Insert the new category name:"_s, u"Add Category"_s, NewCategoryName);
-    if (!name || !still.Holds())
-        return;
-    Add_NoteCategory(*name);
-    Select_Category(selectedCategory);
+    Ask_Name(this, u"Add Category"_s, NewCategoryName, [this](const QString& name) {
+        Add_NoteCategory(name);
+        Select_Category(selectedCategory);
+    });
 }
 
 void frmNotesEditor::Mnu_CatProperties(int category, const QPoint& where) {
@@ -125,13 +126,10 @@ void frmNotesEditor::Mnu_CatProperties(int category, const QPoint& where) {
 
 void frmNotesEditor::Rename_Category(int category) {
     Store_Edits();
-    const QString before = Name_Of(category);
-    const Still_There still(this);
-    const auto name = Ask_Name(u"Insert the new category name:"_s, u"Rename Category"_s, before);
-    if (!name || !still.Holds() || Name_Of(category) != before)
-        return;
-    Rename_NoteCategory(category, *name);
-    Select_Category(selectedCategory);
+    Ask_Name(this, u"Rename Category"_s, Name_Of(category), [this, category](const QString& name) {
+        Rename_NoteCategory(category, name);
+        Select_Category(selectedCategory);
+    });
 }
 
 void frmNotesEditor::Delete_Category(int category) {

@@ -8,9 +8,11 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -67,51 +69,52 @@ public:
         return pressed == QMessageBox::No ? Answer::No : Answer::Cancel;
     }
 
-    std::optional<QString> Input(const QString& prompt, const QString& title,
-                                 const QString& text) override {
+    void Input(QWidget* owner, const QString& prompt, const QString& title, const QString& text,
+               std::function<void(const QString&)> taken) override {
         if (isDismissed) {
-            return std::nullopt;
+            return;
         }
-        QInputDialog box;
-        box.setInputMode(QInputDialog::TextInput);
-        box.setWindowTitle(title);
-        box.setLabelText(prompt);
-        box.setTextValue(text);
-        if (auto* line = box.findChild<QLineEdit*>()) {
+        auto* box = new QInputDialog(owner->window());
+        box->setInputMode(QInputDialog::TextInput);
+        box->setWindowTitle(title);
+        box->setLabelText(prompt);
+        box->setTextValue(text);
+        if (auto* line = box->findChild<QLineEdit*>()) {
             line->setAccessibleName(prompt);
         }
-        return Run(box) ? std::optional(box.textValue()) : std::nullopt;
+        Open(*box, *owner, [box, taken = std::move(taken)] { taken(box->textValue()); });
     }
 
-    std::optional<ChosenFile> Open_File(const QString& title, const QString& folder,
-                                        const QString& filter) override {
+    void Open_File(QWidget* owner, const QString& title, const QString& folder,
+                   const QString& filter, std::function<void(const ChosenFile&)> taken) override {
         if (isDismissed) {
-            return std::nullopt;
+            return;
         }
-        QFileDialog box(nullptr, title, folder);
+        auto* box = new QFileDialog(owner->window(), title, folder);
         // Choosing a file neither renames nor deletes one.
-        box.setOptions(QFileDialog::HideNameFilterDetails | QFileDialog::ReadOnly);
-        box.setNameFilters(Toolkit_Filters(filter));
-        box.setAcceptMode(QFileDialog::AcceptOpen);
-        box.setFileMode(QFileDialog::AnyFile); // the caller may complete a typed name
-        if (!Run(box) || box.selectedFiles().isEmpty()) {
-            return std::nullopt;
-        }
-        // As it is shown, or whole: versions of the toolkit differ.
-        const QString selected = box.selectedNameFilter();
-        const auto index = std::max(filter.split(u";;"_s, Qt::SkipEmptyParts).indexOf(selected),
-                                    box.nameFilters().indexOf(selected));
-        return ChosenFile{box.selectedFiles().constFirst(), std::max(0, static_cast<int>(index))};
+        box->setOptions(QFileDialog::HideNameFilterDetails | QFileDialog::ReadOnly);
+        box->setNameFilters(Toolkit_Filters(filter));
+        box->setAcceptMode(QFileDialog::AcceptOpen);
+        box->setFileMode(QFileDialog::AnyFile); // the caller may complete a typed name
+        Open(*box, *owner, [box, filter, taken = std::move(taken)] {
+            // As it is shown, or whole: versions of the toolkit differ.
+            const QString selected = box->selectedNameFilter();
+            const auto index = std::max(filter.split(u";;"_s, Qt::SkipEmptyParts).indexOf(selected),
+                                        box->nameFilters().indexOf(selected));
+            if (!box->selectedFiles().isEmpty()) {
+                taken({box->selectedFiles().constFirst(), std::max(0, static_cast<int>(index))});
+            }
+        });
     }
 
     bool Holds_Timers() override { return holding > 0; }
 
     void Dismiss_All() override {
         isDismissed = true;
-        // The innermost loop first. A box that goes may take others with it, hence the copy's test.
-        const std::vector<QDialog*> closing = open;
+        // The innermost loop first. A box that goes may take others with it.
+        const auto closing = open;
         for (auto box = closing.rbegin(); box != closing.rend(); ++box) {
-            if (std::find(open.begin(), open.end(), *box) != open.end()) {
+            if (*box) {
                 (*box)->done(QDialog::Rejected);
             }
         }
@@ -134,18 +137,37 @@ private:
         return isDismissed || pressed == QMessageBox::NoButton ? closing : pressed;
     }
 
-    // True when the user agreed.
-    bool Run(QDialog& box) {
-        box.setWindowModality(Qt::ApplicationModal);
+    void Prepare(QDialog& box, Qt::WindowModality modality) {
+        box.setWindowModality(modality);
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
         box.setAccessibleName(box.windowTitle());
-        open.push_back(&box);
-        const bool isAccepted = box.exec() == QDialog::Accepted;
-        open.erase(std::find(open.begin(), open.end(), &box));
-        return isAccepted && !isDismissed;
+        open.emplace_back(&box);
     }
 
-    std::vector<QDialog*> open; // outermost first
+    void Forget(const QDialog& box) {
+        std::erase_if(open, [&box](const auto& one) { return !one || one == &box; });
+    }
+
+    void Run(QDialog& box) {
+        Prepare(box, Qt::ApplicationModal);
+        box.exec();
+        Forget(box);
+    }
+
+    // The box goes once it has told; at the end with its owner, as its handlers may be running.
+    void Open(QDialog& box, const QWidget& owner, const std::function<void()>& agreed) {
+        Prepare(box, Qt::WindowModal);
+        QObject::connect(&box, &QDialog::accepted, &owner, agreed);
+        QObject::connect(&box, &QDialog::finished, &box, [this, &box] {
+            Forget(box);
+            if (!isDismissed) {
+                box.deleteLater();
+            }
+        });
+        box.QDialog::open();
+    }
+
+    std::vector<QPointer<QDialog>> open; // the innermost last
     int holding = 0;
     bool isDismissed = false;
 };

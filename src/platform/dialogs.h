@@ -1,11 +1,15 @@
-// The boxes that the program shows. All of them are modal.
+// The boxes that the program shows. Messages and questions block all of its windows and wait for
+// the answer. Input boxes and file dialogs block the window that asks, return at once and tell
+// later.
 #pragma once
 
 #include "platform/service.h"
 
 #include <QString>
 
-#include <optional>
+#include <functional>
+
+class QWidget;
 
 namespace platform {
 
@@ -32,12 +36,12 @@ public:
     virtual void Show_Message(const QString& text, const BoxLook& look) = 0;
     // A question with Yes, No and, if asked for, Cancel. Closing the box is Cancel, or No without.
     virtual Answer Question(const QString& text, bool withCancel, const BoxLook& look = {}) = 0;
-    // A line of text; nothing when the user cancels.
-    virtual std::optional<QString> Input(const QString& prompt, const QString& title,
-                                         const QString& text) = 0;
-    // A file; nothing when the user cancels. filter: "Sounds (*.wav *.mp3);;All Files (*.*)".
-    virtual std::optional<ChosenFile> Open_File(const QString& title, const QString& folder,
-                                                const QString& filter) = 0;
+    // A line of text. taken: called unless the user cancels or the owner is gone by then.
+    virtual void Input(QWidget* owner, const QString& prompt, const QString& title,
+                       const QString& text, std::function<void(const QString&)> taken) = 0;
+    // A file, told the same way. filter: "Sounds (*.wav *.mp3);;All Files (*.*)".
+    virtual void Open_File(QWidget* owner, const QString& title, const QString& folder,
+                           const QString& filter, std::function<void(const ChosenFile&)> taken) = 0;
 
     // A message or question box is on view: it holds the program's timers (an input box and a file
     // dialog do not).

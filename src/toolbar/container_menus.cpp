@@ -15,14 +15,6 @@ int Global_HideOptionAnswer = -1;
 
 namespace {
 
-class MessagePause {
-public:
-    MessagePause() { Global_MessagePaused = true; }
-    ~MessagePause() { Global_MessagePaused = false; }
-    MessagePause(const MessagePause&) = delete;
-    MessagePause& operator=(const MessagePause&) = delete;
-};
-
 template <class Offered>
 void Add_Rows(QMenu& menu, std::span<const MenuRow> rows, const Offered& offered) {
     for (const MenuRow& row : rows) {
@@ -111,6 +103,8 @@ std::optional<int> frmContainer::Ask_Options(const QPoint& where) const {
     }
     Add_Rows(menu, mnuOptions(), offered);
     Add_RemindAgain(menu);
+    // Not once the menu has answered: another menu or box may be open by then.
+    QObject::connect(&menu, &QMenu::aboutToHide, [] { Global_MessagePaused = false; });
     return Ask(menu, where);
 }
 
@@ -122,11 +116,8 @@ void frmContainer::Popup_MessageOptions(const QPoint& where) {
     IsStandardReminder = true;
     wReminderListI = index;
     const ToolbarMessage served = Global_ToolbarMessages[static_cast<std::size_t>(index)];
-    std::optional<int> picked;
-    {
-        const MessagePause pause;
-        picked = Ask_Options(where);
-    }
+    Global_MessagePaused = true;
+    const std::optional<int> picked = Ask_Options(where);
     if (picked && Same_Message(index, served)) {
         wReminderListI = index;
         mnuOptions_Click(*picked);

@@ -2,7 +2,9 @@
 #include "controls/unload_queue.h"
 #include "support/scripted_dialogs.h"
 
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -57,7 +59,7 @@ TEST_F(TimersTest, A_message_box_holds_the_work_back_and_the_next_tick_does_it) 
     EXPECT_EQ(checks, 1);
     // An input box lets them run.
     dialogs.Expect_Input(u"Name"_s, std::nullopt);
-    dialogs.Input(u"Name"_s, {}, {});
+    dialogs.Input(nullptr, u"Name"_s, {}, {}, {});
     EXPECT_EQ(checks, 2);
 }
 
@@ -107,6 +109,29 @@ TEST_F(TimersTest, A_form_unloads_from_its_own_handler_and_may_queue_another) {
     EXPECT_TRUE(timers.Is_Enabled(TimerName::UnloadFormsTimer));
     EXPECT_TRUE(QTest::qWaitFor([&] { return form.isNull() && other.isNull(); }));
     EXPECT_FALSE(timers.Is_Enabled(TimerName::UnloadFormsTimer));
+    EXPECT_TRUE(Global_PendingUnloads.empty());
+}
+
+TEST_F(TimersTest, A_form_stays_while_a_loop_runs_in_one_of_its_handlers) {
+    QPointer<QWidget> form = new QWidget;
+    QEventLoop program;
+    QEventLoop menu;
+    int ticks = 0;
+    timers.On_Tick(TimerName::UnloadFormsTimer, [&] {
+        UnloadFormsTimer_Tick();
+        Unload_PendingForms();
+        if (++ticks == 2)
+            menu.quit();
+    });
+    QObject::connect(form, &QObject::destroyed, &menu, &QEventLoop::quit);
+    QObject::connect(form, &QObject::destroyed, &program, &QEventLoop::quit);
+    QTimer::singleShot(0, form, [&] {
+        Queue_FormUnload(form);
+        menu.exec();
+        EXPECT_FALSE(form.isNull());
+    });
+    program.exec();
+    EXPECT_TRUE(form.isNull());
     EXPECT_TRUE(Global_PendingUnloads.empty());
 }
 

@@ -5,6 +5,7 @@
 #include "delivery/options_menu.h"
 #include "window_fixture.h"
 
+#include <QMenu>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -210,6 +211,20 @@ TEST_F(ReminderWindow,
     first->wbButton3_Click();
     first->wbButton2_Click();
     EXPECT_TRUE(Global_CenterWindows[0].Used);
+}
+
+TEST_F(ReminderWindow, It_leaves_an_open_menu_open) {
+    for (const bool fades : {false, true}) {
+        Global_IsWinXP = Global_UseTransparency = fades;
+        QMenu menu;
+        menu.addAction(u"Entry"_s);
+        menu.popup({});
+        ASSERT_TRUE(menu.isVisible());
+        Deliver_Reminder(Add_Typed(u"1"_s, ReminderType::NextToToolbar));
+        EXPECT_TRUE(Near_Window(fades ? 1 : 0)->isVisible());
+        EXPECT_TRUE(menu.isVisible());
+    }
+    Release_Transparency();
 }
 
 TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWidget>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -78,56 +80,80 @@ TEST(Dialogs, a_question_is_answered_by_its_keys) {
     EXPECT_EQ(dialogs->Question(u"Delete?"_s, true), Answer::No);
 }
 
-TEST(Dialogs, a_line_is_typed_or_cancelled_and_holds_no_timers) {
+TEST(Dialogs, a_line_is_typed_or_cancelled_and_blocks_the_window_that_asks_alone) {
     const auto dialogs = platform::Make_Dialogs();
-    With_Next_Box([&](QDialog& box) {
-        auto* line = box.findChild<QLineEdit*>();
+    QWidget owner;
+    QWidget other;
+    auto* field = new QWidget(&owner);
+    for (QWidget* window : {&owner, &other}) {
+        window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
+    }
+    QStringList taken;
+    const auto take = [&](const QString& text) { taken << text; };
+    const auto open_box = [] { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); };
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        dialogs->Input(field, u"New name"_s, u"Rename"_s, u"old"_s, take);
+        ASSERT_NE(open_box(), nullptr);
+        auto* line = open_box()->findChild<QLineEdit*>();
         EXPECT_EQ(line->text(), u"old"_s);
         EXPECT_EQ(line->accessibleName(), u"New name"_s);
         EXPECT_FALSE(dialogs->Holds_Timers());
+        struct Presses : QObject {
+            int count = 0;
+            bool eventFilter(QObject*, QEvent* event) override {
+                count += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+                return false;
+            }
+        } seen;
+        owner.installEventFilter(&seen);
+        other.installEventFilter(&seen);
+        QTest::mouseClick(owner.windowHandle(), Qt::LeftButton, {}, {5, 5});
+        EXPECT_EQ(seen.count, 0);
+        QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, {5, 5});
+        EXPECT_EQ(seen.count, 1);
         line->selectAll();
         QTest::keyClicks(line, u"new"_s);
-        QTest::keyClick(line, Qt::Key_Return);
-    });
-    EXPECT_EQ(dialogs->Input(u"New name"_s, u"Rename"_s, u"old"_s), u"new"_s);
-    Press_In_Next_Box(Qt::Key_Escape);
-    EXPECT_EQ(dialogs->Input(u"New name"_s, u"Rename"_s, u"old"_s), std::nullopt);
-    Press_In_Next_Box(Qt::Key_Escape);
-    EXPECT_FALSE(dialogs->Open_File(u"Sound"_s, u"/"_s, u"Sounds (*.wav *.mp3)"_s));
-    With_Next_Box([](QDialog& box) {
-        box.findChild<QLineEdit*>()->setText(u"alarm"_s);
-        box.findChild<QComboBox*>(u"fileTypeCombo"_s)->setCurrentIndex(1);
-        QTest::keyClick(box.findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    const auto chosen =
-        dialogs->Open_File(u"Open File"_s, u"/tmp"_s, u"MP3 File (*.mp3);;WAV File (*.wav)"_s);
-    ASSERT_TRUE(chosen);
-    EXPECT_EQ(chosen->Path, u"/tmp/alarm"_s);
-    EXPECT_EQ(chosen->Filter_Index, 1);
+        QTest::keyClick(line, key);
+        EXPECT_EQ(open_box(), nullptr);
+    }
+    EXPECT_EQ(taken, QStringList{u"new"_s});
+
+    dialogs->Open_File(field, u"Open File"_s, u"/tmp"_s, u"MP3 File (*.mp3);;WAV File (*.wav)"_s,
+                       [&](const platform::ChosenFile& chosen) {
+                           taken << chosen.Path << QString::number(chosen.Filter_Index);
+                       });
+    ASSERT_NE(open_box(), nullptr);
+    open_box()->findChild<QLineEdit*>()->setText(u"alarm"_s);
+    open_box()->findChild<QComboBox*>(u"fileTypeCombo"_s)->setCurrentIndex(1);
+    QTest::keyClick(open_box()->findChild<QLineEdit*>(), Qt::Key_Return);
+    EXPECT_EQ(taken, (QStringList{u"new"_s, u"/tmp/alarm"_s, u"1"_s}));
+
     const QTemporaryDir folder;
     ASSERT_TRUE(QFile(folder.filePath(u"without a dot"_s)).open(QIODevice::WriteOnly));
-    With_Next_Box([](QDialog& box) {
-        const auto* view = box.findChild<QListView*>(u"listView"_s);
-        EXPECT_TRUE(
-            QTest::qWaitFor([&] { return view->model()->rowCount(view->rootIndex()) == 1; }));
-        EXPECT_EQ(box.findChild<QComboBox*>(u"fileTypeCombo"_s)->currentText(),
-                  u"All Files (*.*)"_s);
-        box.reject();
-    });
-    dialogs->Open_File({}, folder.path(), u"All Files (*.*)"_s);
+    dialogs->Open_File(field, {}, folder.path(), u"All Files (*.*)"_s, [](const auto&) {});
+    const auto* view = open_box()->findChild<QListView*>(u"listView"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view->model()->rowCount(view->rootIndex()) == 1; }));
+    EXPECT_EQ(open_box()->findChild<QComboBox*>(u"fileTypeCombo"_s)->currentText(),
+              u"All Files (*.*)"_s);
+    open_box()->reject();
+
+    dialogs->Input(field, {}, {}, {}, take);
+    delete field;
+    QTest::keyClick(open_box(), Qt::Key_Return);
+    EXPECT_EQ(taken.size(), 3) << "nobody is there to take it";
 }
 
 TEST(Dialogs, the_end_of_the_session_cancels_every_open_box_and_all_later_ones) {
     const auto dialogs = platform::Make_Dialogs();
-    std::optional<Answer> inner;
-    With_Next_Box([&](QDialog&) {
-        With_Next_Box([&](QDialog&) { dialogs->Dismiss_All(); });
-        inner = dialogs->Question(u"Inner?"_s, true);
-    });
-    EXPECT_EQ(dialogs->Input(u"Outer"_s, u"Outer"_s, u"text"_s), std::nullopt);
-    EXPECT_EQ(inner, Answer::Cancel);
+    QWidget owner;
+    const auto never = [](const auto&) { ADD_FAILURE(); };
+    dialogs->Input(&owner, u"Outer"_s, u"Outer"_s, u"text"_s, never);
+    With_Next_Box([&](QDialog&) { dialogs->Dismiss_All(); });
+    EXPECT_EQ(dialogs->Question(u"Inner?"_s, true), Answer::Cancel);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     dialogs->Message(u"later"_s, BoxStyle::Information);
     EXPECT_EQ(dialogs->Question(u"Later?"_s, false), Answer::No);
-    EXPECT_FALSE(dialogs->Open_File({}, {}, {}));
+    dialogs->Open_File(&owner, {}, {}, {}, never);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }

@@ -69,15 +69,20 @@ public:
         }
         return step.answer;
     }
-    std::optional<QString> Input(const QString& prompt, const QString& title,
-                                 const QString& text) override {
-        return Show({Kind::Input, prompt, {}, false, title, text, {}}).line;
+    void Input(QWidget* /*owner*/, const QString& prompt, const QString& title, const QString& text,
+               std::function<void(const QString&)> taken) override {
+        const Step step = Show({Kind::Input, prompt, {}, false, title, text, {}});
+        if (step.line) {
+            taken(*step.line);
+        }
     }
-    std::optional<platform::ChosenFile> Open_File(const QString& title, const QString& folder,
-                                                  const QString& filter) override {
+    void Open_File(QWidget* /*owner*/, const QString& title, const QString& folder,
+                   const QString& filter,
+                   std::function<void(const platform::ChosenFile&)> taken) override {
         const Step step = Show({Kind::Open_File, title, {}, false, title, folder, filter});
-        return step.line ? std::optional(platform::ChosenFile{*step.line, step.filter})
-                         : std::nullopt;
+        if (step.line) {
+            taken({*step.line, step.filter});
+        }
     }
     bool Holds_Timers() override { return holding > 0; }
     void Dismiss_All() override { dismissed = true; }

@@ -11,7 +11,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -128,12 +127,10 @@ void frmRE_FunctionEdit::wbButton1_Click() {
 }
 
 void frmRE_FunctionEdit::wbButton3_Click() {
-    const QPointer<frmRE_FunctionEdit> alive(this);
-    const std::optional<QString> path = Choose_File({{u"All Files (*.*)"_s, {}}});
-    if (!path || !alive || Is_Unloading() || Program_Is_Ending())
-        return;
-    Text10[1]->setText(*path);
-    Tick(1);
+    Choose_File(this, {{u"All Files (*.*)"_s, {}}}, [this](const QString& path) {
+        Text10[1]->setText(path);
+        Tick(1);
+    });
 }
 
 void frmRE_FunctionEdit::keyPressEvent(QKeyEvent* event) {

@@ -5,24 +5,36 @@
 
 #include <QStringList>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
-std::optional<QString> Choose_File(const std::vector<FileFilter>& filters) {
+namespace {
+
+// The name as it was typed, or with the extension of the filter; empty when neither is there.
+QString Existing_Path(const platform::ChosenFile& chosen, const std::vector<FileFilter>& filters) {
+    QString path = chosen.Path;
+    const auto index = static_cast<std::size_t>(chosen.Filter_Index);
+    if (!platform::Files::Get().Exists(path) && index < filters.size())
+        path += filters[index].Extension;
+    if (platform::Files::Get().Exists(path))
+        return path;
+    platform::Dialogs::Get().Message(u"Can't open file: "_s + path, platform::BoxStyle::Critical);
+    return {};
+}
+
+} // namespace
+
+void Choose_File(QWidget* owner, std::vector<FileFilter> filters,
+                 std::function<void(const QString&)> taken) {
     QStringList titles;
     for (const FileFilter& filter : filters)
         titles << filter.Title;
-    platform::Dialogs& dialogs = platform::Dialogs::Get();
-    const auto chosen = dialogs.Open_File(u"Open File"_s, {}, titles.join(";;"_L1));
-    if (!chosen)
-        return {};
-    platform::Files& files = platform::Files::Get();
-    QString path = chosen->Path;
-    const auto index = static_cast<std::size_t>(chosen->Filter_Index);
-    if (!files.Exists(path) && index < filters.size())
-        path += filters[index].Extension;
-    if (!files.Exists(path)) {
-        dialogs.Message(u"Can't open file: "_s + path, platform::BoxStyle::Critical);
-        return {};
-    }
-    return path;
+    platform::Dialogs::Get().Open_File(
+        owner, u"Open File"_s, {}, titles.join(";;"_L1),
+        [filters = std::move(filters), taken = std::move(taken)](const auto& chosen) {
+            const QString path = Existing_Path(chosen, filters);
+            if (!path.isEmpty())
+                taken(path);
+        });
 }

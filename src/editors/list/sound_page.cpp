@@ -10,7 +10,6 @@
 #include "platform/dialogs.h"
 
 #include <QLineEdit>
-#include <QPointer>
 
 #include <limits>
 
@@ -78,15 +77,15 @@ void SoundPage::Sound_Option_Checked(int k) {
 }
 
 void SoundPage::wbButton7_Click() {
-    const QPointer<SoundPage> alive(this);
-    const std::optional<QString> path = Choose_File({{u"MP3 File (*.mp3)"_s, u".mp3"_s},
-                                                     {u"WAV File (*.wav)"_s, u".wav"_s},
-                                                     {u"All Files (*.*)"_s, {}}});
-    if (!path || !alive || Program_Is_Ending())
-        return;
-    Text11->setText(*path);
-    p7ChkImage[BeepBox]->Set_Ticked(false);
-    Text11->setEnabled(true);
+    Choose_File(this,
+                {{u"MP3 File (*.mp3)"_s, u".mp3"_s},
+                 {u"WAV File (*.wav)"_s, u".wav"_s},
+                 {u"All Files (*.*)"_s, {}}},
+                [this](const QString& path) {
+                    Text11->setText(path);
+                    p7ChkImage[BeepBox]->Set_Ticked(false);
+                    Text11->setEnabled(true);
+                });
 }
 
 void SoundPage::wbButton4_Click() {

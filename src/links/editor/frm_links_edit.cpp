@@ -242,15 +242,13 @@ void frmLinksEdit::Show_Help() {
 }
 
 void frmLinksEdit::Browse() {
-    const QPointer<frmLinksEdit> alive(this);
-    const int row = edit.Selected();
-    platform::Dialogs& dialogs = platform::Dialogs::Get();
-    const auto chosen = dialogs.Open_File(u"Open File"_s, {}, u"All Files (*.*)"_s);
-    if (!chosen || !alive || !Is_Here() || row != edit.Selected())
-        return;
-    if (!platform::Files::Get().Exists(chosen->Path) || !panel->Set_Path(chosen->Path))
-        dialogs.Message(u"Can't open file: "_s + chosen->Path.left(ShownName),
-                        platform::BoxStyle::Critical);
+    platform::Dialogs::Get().Open_File(
+        this, u"Open File"_s, {}, u"All Files (*.*)"_s, [this](const platform::ChosenFile& chosen) {
+            if (!platform::Files::Get().Exists(chosen.Path) || !panel->Set_Path(chosen.Path))
+                platform::Dialogs::Get().Message(u"Can't open file: "_s +
+                                                     chosen.Path.left(ShownName),
+                                                 platform::BoxStyle::Critical);
+        });
 }
 
 void frmLinksEdit::Drop_File(const QString& path) {
