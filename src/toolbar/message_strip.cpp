@@ -7,13 +7,20 @@
 #include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QRawFont>
+#include <QTextLayout>
 #include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int ToolTipLimit = 1000; // characters; a longer tip would cover the screen
+constexpr qsizetype PieceLength = 64; // glyphs
+constexpr int ToolTipLimit = 1000;    // characters; a longer tip would cover the screen
 
 // Breaks and tabs would leave the line.
 QString As_Line(QString text) {
@@ -55,14 +62,37 @@ MessageText::MessageText(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setFont(Small_Font());
-    layout.setTextFormat(Qt::PlainText);
-    layout.setPerformanceHint(QStaticText::AggressiveCaching);
 }
 
 void MessageText::Set_Text(const QString& text) {
     shown = text;
-    layout.setText(As_Line(text));
+    pieces.clear();
+    QTextLayout layout(As_Line(text), font());
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::NoWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    layout.createLine().setLineWidth(QWIDGETSIZE_MAX);
+    layout.endLayout();
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        Add_Pieces(run);
+    }
     update();
+}
+
+void MessageText::Add_Pieces(const QGlyphRun& run) {
+    const QList<quint32> glyphs = run.glyphIndexes();
+    const QList<QPointF> places = run.positions();
+    const int reach = static_cast<int>(std::ceil(run.rawFont().maxCharWidth()));
+    const auto isLefter = [](QPointF a, QPointF b) { return a.x() < b.x(); };
+    for (qsizetype from = 0; from < glyphs.size(); from += PieceLength) {
+        const QList<QPointF> there = places.mid(from, PieceLength);
+        const auto [first, last] = std::minmax_element(there.begin(), there.end(), isLefter);
+        Piece piece{run, qRound(first->x()) - reach, qRound(last->x()) + 2 * reach};
+        piece.Glyphs.setGlyphIndexes(glyphs.mid(from, PieceLength));
+        piece.Glyphs.setPositions(there);
+        pieces.push_back(std::move(piece));
+    }
 }
 
 int MessageText::Width_Of(const QString& text) {
@@ -87,5 +117,9 @@ void MessageText::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), palette::To_Color(palette::Message_Back));
     painter.setPen(palette::To_Color(palette::Message_Text));
-    painter.drawStaticText(0, 0, layout);
+    for (const Piece& piece : pieces) {
+        if (piece.Left <= event->rect().right() && piece.Right >= event->rect().left()) {
+            painter.drawGlyphRun({}, piece.Glyphs);
+        }
+    }
 }

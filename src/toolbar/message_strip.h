@@ -2,8 +2,10 @@
 // their mouse events.
 #pragma once
 
-#include <QStaticText>
+#include <QGlyphRun>
 #include <QWidget>
+
+#include <vector>
 
 // Picture1: the yellow surface. It can have the keyboard focus, so that the menu of a message can
 // be reached without a mouse.
@@ -23,7 +25,8 @@ private:
     bool focusByKey = false;
 };
 
-// Label1: one line of plain text. Moving it by a pixel repaints a pixel's width.
+// Label1: one line of plain text. Moving it by a pixel repaints a pixel's width, of a text of any
+// length only what stands there.
 class MessageText : public QWidget {
 public:
     explicit MessageText(QWidget* parent);
@@ -38,6 +41,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // A few glyphs of the line; they may reach from left to right, pixels of the line.
+    struct Piece {
+        QGlyphRun Glyphs;
+        int Left = 0;
+        int Right = 0;
+    };
+
+    void Add_Pieces(const QGlyphRun& run);
+
     QString shown;
-    QStaticText layout;
+    std::vector<Piece> pieces;
 };
