@@ -60,8 +60,6 @@ void frmImportantRWin::AddReminder(std::int32_t slot) {
 void frmImportantRWin::Show_Window() {
     platform::Windows& windows = platform::Windows::Get();
     windows.Leave_TaskBar(winId());
-    if (Global_IsWinXP)
-        windows.Set_Shadow(winId(), Global_UseShadows);
     if (Global_IsWinXP && Global_UseTransparency) {
         Global_Transparency().DoFadeIn(this);
         Global_Transparency().Enable_TC_Timer();

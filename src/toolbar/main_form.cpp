@@ -4,6 +4,7 @@
 #include "controls/program_end.h"
 #include "controls/timers.h"
 #include "controls/transparency.h"
+#include "controls/window_shadows.h"
 #include "platform/clock.h"
 #include "platform/window.h"
 #include "settings/global_settings.h"
@@ -50,6 +51,7 @@ MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActio
     setMouseTracking(true);
     setContextMenuPolicy(Qt::PreventContextMenu);
     QToolTip::setFont(Small_Font());
+    new WindowShadows(this);
     Build_Buttons();
     commands.On_Change([this] { Enable_Buttons(); });
     Enable_Buttons();
@@ -68,9 +70,6 @@ MainForm::~MainForm() {
 void MainForm::Load_Window(const StartPlace& place) {
     Set_Bounds({place.Left, place.Top, place.Width, PixelsY_To_Twips(ToolbarHeight)});
     saved = live;
-    if (platform::Windows::Is_Provided() && Global_IsWinXP) {
-        platform::Windows::Get().Set_Shadow(winId(), Global_UseShadows);
-    }
     if (Global_Timers != nullptr) {
         Global_Timers->On_Tick(TimerName::ResizeForm_Timer, [this] { ResizeForm_Tick(); });
         Global_Timers->On_Tick(TimerName::AutoHideTimer, [this] { AutoHideTimer_Tick(); });

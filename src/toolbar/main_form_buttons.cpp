@@ -1,5 +1,6 @@
 // The buttons of the strip and what they do.
 #include "controls/icons.h"
+#include "controls/unload_queue.h"
 #include "toolbar/main_form.h"
 #include "toolbar/message_strip.h"
 
@@ -76,6 +77,11 @@ void MainForm::Build_Buttons() {
     };
     for (const auto& [button, command] : clicks) {
         connect(button, &wbButton::Click, this, [this, run = command] { commands.Run(run); });
+    }
+    // A press on a button is one on the strip.
+    for (const wbButton* button :
+         {wbButton1, wbButton2, wbButton3, wbButton4, wbButton5, wbButton6}) {
+        connect(button, &wbButton::MouseDown, this, [] { Unload_PendingForms(); });
     }
     for (const wbButton* button : {wbButton1, wbButton2, wbButton4}) {
         connect(button, &wbButton::MouseMove, this, &MainForm::MouseOver);

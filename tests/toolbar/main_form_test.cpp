@@ -1,3 +1,4 @@
+#include "controls/unload_queue.h"
 #include "delivery/important_rwin.h"
 #include "support/spoken_name.h"
 #include "toolbar/main_form_fixture.h"
@@ -18,6 +19,17 @@ TEST_F(MainFormTest, It_stands_where_the_settings_say_on_top_and_out_of_the_task
     EXPECT_TRUE(state.topmost);
     EXPECT_TRUE(state.leftTaskBar);
     EXPECT_EQ(state.shadow, Global_UseShadows);
+}
+
+TEST_F(MainFormTest, Use_shadows_reaches_windows_and_tool_tips_of_every_kind) {
+    for (const bool wanted : {false, true}) {
+        Global_UseShadows = wanted;
+        for (const auto kind : {Qt::Window, Qt::Tool, Qt::ToolTip}) {
+            QWidget window(nullptr, kind);
+            window.show();
+            EXPECT_EQ(windows.windows.at(window.winId()).shadow, wanted) << kind;
+        }
+    }
 }
 
 TEST_F(MainFormTest, Damaged_settings_give_a_window_that_can_be_drawn) {
@@ -159,6 +171,37 @@ TEST_F(MainFormTest, Text_moves_over_the_line_without_repainting_the_strip) {
     form.Clear_Line();
     EXPECT_FALSE(form.Label1->isVisible());
     EXPECT_EQ(form.Label1->toolTip(), QString());
+
+    // Of a long text what stands on the line is drawn, wherever that is.
+    const QString longText = QString(65535, u'm');
+    const int longWidth = form.Text_Width(longText);
+    form.Put_Text(longText, longWidth, form.Line_Width());
+    const auto is_empty = [this](int left) {
+        form.Move_Text(left);
+        QImage empty = form.Picture1->grab().toImage();
+        const QImage line = empty;
+        empty.fill(line.pixel(0, 0));
+        return line == empty;
+    };
+    for (const int left : {0, -1000, -longWidth / 2, -longWidth + 10}) {
+        EXPECT_FALSE(is_empty(left)) << left;
+    }
+    EXPECT_TRUE(is_empty(-longWidth));
+}
+
+TEST_F(MainFormTest, A_press_on_any_button_sends_the_links_menu_away_as_one_on_the_strip_does) {
+    const std::vector<QWidget*> places{form.wbButton1, form.wbButton2, form.wbButton3,
+                                       form.wbButton4, form.wbButton5, form.wbButton6,
+                                       form.Picture1};
+    for (QWidget* place : places) {
+        QPointer<QWidget> menu = new QWidget;
+        menu->show();
+        Global_PendingUnloads.emplace_back(menu);
+        place->setEnabled(true);
+        QTest::mousePress(place, Qt::LeftButton);
+        EXPECT_FALSE(menu && menu->isVisible());
+        QTest::mouseRelease(place, Qt::LeftButton, {}, {-9, -9});
+    }
 }
 
 TEST_F(MainFormTest, A_button_waits_for_somebody_to_carry_it_out) {

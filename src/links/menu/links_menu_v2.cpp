@@ -106,8 +106,6 @@ void LinksMenuV2::ShowForm() {
     platform::Windows& windows = platform::Windows::Get();
     windows.Leave_TaskBar(winId());
     windows.Keep_Place(winId());
-    if (Global_IsWinXP)
-        windows.Set_Shadow(winId(), Global_UseShadows);
     if (Fades_Here()) {
         Global_Transparency().DoFadeIn(this, this);
         Global_Transparency().Enable_TC_Timer();
