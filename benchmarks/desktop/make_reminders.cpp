@@ -1,5 +1,6 @@
 // Writes a "reminders.dat" of reminders that come at every start, all at once:
-// make_reminders FILE COUNT toolbar|windows. The first one beeps.
+// make_reminders FILE COUNT toolbar|long|windows. "long" has as much text as one field takes. The
+// first one beeps.
 #include "core/reminder_store.h"
 #include "platform/system.h"
 
@@ -9,6 +10,8 @@
 #include <string_view>
 
 using namespace Qt::StringLiterals;
+
+constexpr qsizetype LongText = 65535; // characters
 
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
@@ -29,6 +32,9 @@ int main(int argc, char** argv) {
                                          ? ReminderType::NextToToolbar
                                          : ReminderType::InsideToolbar;
         reminder->rs_Text = u"Call the dentist"_s;
+        if (argv[3] == std::string_view("long")) {
+            reminder->rs_Text = u"Call the dentist. "_s.repeated(LongText).left(LongText);
+        }
         reminder->AddNewHourSetup({-1, -1, 1439, 1439});
         auto& slot = Global_Reminders[static_cast<std::size_t>(Take_FreeReminderSlot())];
         slot.Used = true;

@@ -1,5 +1,5 @@
-// Whether the program is on its way out. Everything that handles events inside a handler of its
-// own (a popup menu, an animation, a box) asks this afterwards, and does nothing more if so.
+// Whether the program is on its way out. Whoever waits inside a handler for a menu or a box asks
+// this afterwards, and does nothing more if so.
 #pragma once
 
 bool Program_Is_Ending();

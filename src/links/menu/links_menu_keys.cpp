@@ -77,11 +77,10 @@ void LinksMenuV2::Choose_Row(int row) {
 }
 
 void LinksMenuV2::Enter_Child() {
-    const QPointer<LinksMenuV2> alive(this);
     if (selectedRow == NoMenuRow || Kind(selectedRow) != MenuRowKind::Category)
         return;
     Click_Row(selectedRow);
-    if (alive && ChildForm && ChildForm->open)
+    if (ChildForm && ChildForm->open)
         ChildForm->Choose_Row(Next_MenuRow(ChildForm->level->Kinds, NoMenuRow, 1));
 }
 

@@ -116,21 +116,17 @@ void LinksMenuV2::MouseInsideFormTimer_Tick() {
         return;
     ShowMenuTimer.stop();
     MouseInsideFormTimer.stop();
-    const QPointer<LinksMenuV2> alive(this);
-    const QPointer<LinksMenuV2> parent = ParentForm;
-    const QPointer<LinksMenuV2> child = ChildForm;
     Leave_Form();
-    if (parent)
-        parent->Parent_ChildLostFocus();
-    if (alive && child)
-        child->Child_ParentLostFocus();
+    if (ParentForm)
+        ParentForm->Parent_ChildLostFocus();
+    if (ChildForm)
+        ChildForm->Child_ParentLostFocus();
 }
 
 void LinksMenuV2::Child_ParentLostFocus() {
-    const QPointer<LinksMenuV2> child = ChildForm;
     Leave_Form();
-    if (child)
-        child->Child_ParentLostFocus();
+    if (ChildForm)
+        ChildForm->Child_ParentLostFocus();
 }
 
 void LinksMenuV2::Parent_ChildLostFocus() {
@@ -140,10 +136,9 @@ void LinksMenuV2::Parent_ChildLostFocus() {
         selectedRow = NoMenuRow;
         return;
     }
-    const QPointer<LinksMenuV2> parent = ParentForm;
     Leave_Form();
-    if (parent)
-        parent->Parent_ChildLostFocus();
+    if (ParentForm)
+        ParentForm->Parent_ChildLostFocus();
 }
 
 void LinksMenuV2::enterEvent(QEnterEvent* event) {
@@ -212,8 +207,7 @@ bool LinksMenuV2::event(QEvent* event) {
         return true;
     }
     // The focus has gone elsewhere: nobody is left to use the menu by keys.
-    const QPointer<LinksMenuV2> alive(this);
     if (event->type() == QEvent::WindowDeactivate && Holds_Focus())
         Leave_Form();
-    return !alive || QWidget::event(event);
+    return QWidget::event(event);
 }
