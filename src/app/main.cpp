@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 int main(int argc, char** argv) {
     platform::Prepare_Process();
     QApplication toolkit(argc, argv);
+    platform::Restore_Environment();
     QApplication::setApplicationName(u"Tockly"_s);
     QApplication::setDesktopFileName(u"tockly"_s);
     Set_ProgramLook();

@@ -96,6 +96,16 @@ TEST_F(ShellTest, a_program_is_started_and_a_picture_with_its_bits_is_not) {
     EXPECT_EQ(Started(), u"opener|"_s + picture + u'|');
     EXPECT_TRUE(shell->Start(u"my tool"_s, {u"-a b"_s, {}, u"$HOME"_s}, ShowState::Minimized));
     EXPECT_EQ(Started(), u"tool|-a b||$HOME|"_s);
+    // However a program file is named and started, it starts in its own folder.
+    Put(u"where.exe"_s,
+        "#!/bin/sh\npwd > \"$ARGUMENTS.new\"\nmv \"$ARGUMENTS.new\" \"$ARGUMENTS\"\n", true);
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder.path().toLocal8Bit());
+    EXPECT_TRUE(shell->Open(u"~/where.exe"_s, ShowState::Normal));
+    EXPECT_EQ(Started().trimmed(), folder.path());
+    EXPECT_TRUE(shell->Start(u" ~/where.exe"_s, {}, ShowState::Normal));
+    EXPECT_EQ(Started().trimmed(), folder.path());
+    qputenv("HOME", home);
 }
 
 TEST_F(ShellTest, what_is_not_there_is_not_started) {

@@ -2,9 +2,25 @@
 
 #include <QByteArray>
 
-void platform::Prepare_Process() {
+namespace platform {
+
+namespace {
+constexpr char WindowSystem[] = "QT_QPA_PLATFORM";
+bool isChosenHere = false;
+} // namespace
+
+void Prepare_Process() {
     // A strip that a Wayland compositor places would stand anywhere.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", QByteArray("xcb"));
+    isChosenHere = !qEnvironmentVariableIsSet(WindowSystem) && qEnvironmentVariableIsSet("DISPLAY");
+    if (isChosenHere) {
+        qputenv(WindowSystem, QByteArray("xcb"));
     }
 }
+
+void Restore_Environment() {
+    if (isChosenHere) {
+        qunsetenv(WindowSystem);
+    }
+}
+
+} // namespace platform

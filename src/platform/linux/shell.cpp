@@ -115,6 +115,9 @@ struct Command {
 
 bool Launch(const Command& command, ShowState state) {
     static int launches = 0;
+    if (command.program.isEmpty()) {
+        return false;
+    }
     QProcess process;
     process.setProgram(command.program);
     process.setArguments(command.arguments);
@@ -168,13 +171,21 @@ QFileInfo Named_File(const QString& target) {
     return QFileInfo(name.startsWith("~/"_L1) ? QDir::homePath() + name.mid(1) : name);
 }
 
-// The file that a program's name or path means; empty when there is none.
-QString Find_Program(const QString& program) {
-    if (program.contains(u'/')) {
-        const QFileInfo info(program);
-        return info.isFile() && info.isExecutable() ? info.absoluteFilePath() : QString();
+// A command by its bare name, which starts where this program was started.
+Command Find_Command(const QString& name) {
+    const bool isBare = !name.isEmpty() && !name.contains(u'/');
+    return {isBare ? QStandardPaths::findExecutable(name) : QString(), {}};
+}
+
+// A program file starts in its own folder, whichever way it was named.
+Command Find_Program(const QString& named) {
+    const QFileInfo info = Named_File(named);
+    if (!info.isFile()) {
+        return Find_Command(named.trimmed());
     }
-    return program.isEmpty() ? QString() : QStandardPaths::findExecutable(program);
+    return {info.isExecutable() ? QDir::cleanPath(info.absoluteFilePath()) : QString(),
+            {},
+            info.absolutePath()};
 }
 
 class LinuxShell : public Shell {
@@ -198,15 +209,14 @@ public:
         if (Is_Address(target)) {
             return Hand_Over(target, state);
         }
-        const QString program = Find_Program(target);
-        return !program.isEmpty() && Launch({program, {}}, state);
+        return Launch(Find_Command(target), state);
     }
 
     bool Start(const QString& program, const std::vector<QString>& arguments,
                ShowState state) override {
-        const QString file = Find_Program(program);
-        return !file.isEmpty() &&
-               Launch({file, QStringList(arguments.begin(), arguments.end())}, state);
+        Command command = Find_Program(program);
+        command.arguments = QStringList(arguments.begin(), arguments.end());
+        return Launch(command, state);
     }
 };
 
