@@ -6,15 +6,16 @@
 #include "controls/program_end.h"
 #include "core/reminder_store.h"
 #include "delivery/deliver.h"
+#include "platform/shown_text.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QStyle>
 
 #include <algorithm>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -25,7 +26,7 @@ constexpr int FromEdge = 2;
 constexpr int SmallestLayout = 50;      // below it the controls stay as they are
 constexpr qsizetype MeasuredText = 500; // wider than any screen
 
-std::unique_ptr<frmMissedReminders> missedWindow;
+QPointer<frmMissedReminders> missedWindow;
 
 QPalette List_Palette() {
     QPalette colors(palette::To_Color(palette::System_ButtonFace));
@@ -37,7 +38,8 @@ QPalette List_Palette() {
 // A row is one line, whatever the text holds.
 QString Row_Text(const QString& text) {
     QString line = text;
-    line.replace(u'\r', u' ').replace(u'\n', u' ');
+    for (const QChar lineEnd : {u'\r', u'\n', u'\u2028', u'\u2029'})
+        line.replace(lineEnd, u' ');
     return line;
 }
 
@@ -68,7 +70,7 @@ void frmMissedReminders::Fill_List(std::vector<MissedEntry> missed) {
     for (const MissedEntry& entry : entries) {
         auto* item = new QListWidgetItem(Row_Text(entry.Text), List1);
         item->setSizeHint(QSize(0, RowHeight));
-        item->setToolTip(entry.Text.left(MeasuredText));
+        item->setToolTip(platform::Tip_Text(entry.Text));
     }
     List1->setCurrentRow(0);
 }
@@ -114,8 +116,8 @@ void frmMissedReminders::keyPressEvent(QKeyEvent* event) {
 }
 
 void LoadAndShow_MissedReminders() {
-    if (missedWindow == nullptr)
-        missedWindow = std::make_unique<frmMissedReminders>();
+    if (missedWindow.isNull())
+        missedWindow = new frmMissedReminders;
     std::vector<MissedEntry> missed = List_MissedReminders(Read_Moment());
     const bool hasRows = !missed.empty();
     missedWindow->Fill_List(std::move(missed));
@@ -125,5 +127,5 @@ void LoadAndShow_MissedReminders() {
 }
 
 void Unload_MissedReminders() {
-    missedWindow.reset();
+    delete missedWindow.data();
 }

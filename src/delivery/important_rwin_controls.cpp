@@ -6,6 +6,7 @@
 #include "delivery/action_icons.h"
 #include "delivery/important_rwin.h"
 #include "delivery/rwin_layout.h"
+#include "platform/shown_text.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -150,7 +151,8 @@ void frmImportantRWin::Show_Action(int row, const FunctionEntry& entry) {
     const QString caption = entry.Title.simplified();
     const QString shown = button->fontMetrics().elidedText(caption, Qt::ElideRight, room);
     button->Set_Caption(shown);
-    button->Set_ToolTipTextLabel(shown == caption ? entry.Function_Path : caption);
+    button->Set_ToolTipTextLabel(
+        platform::Tip_Text(shown == caption ? entry.Function_Path : caption));
     button->setAccessibleName(Spoken_Name(entry));
     button->setAccessibleDescription(entry.Function_Path);
 }

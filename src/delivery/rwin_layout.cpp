@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace rwin {
 
 namespace {
@@ -27,6 +29,15 @@ int Lines_OfParagraph(const QString& paragraph, const QFont& font, int width, in
     }
     layout.endLayout();
     return std::max(lines, 1);
+}
+
+// Where the text box begins another line; -1 when nowhere behind the start.
+qsizetype Paragraph_End(const QString& text, qsizetype start) {
+    const auto isEnd = [](QChar character) {
+        return character == u'\n' || character == u'\r' || character == QChar::ParagraphSeparator;
+    };
+    const auto* const found = std::find_if(text.begin() + start, text.end(), isEnd);
+    return found == text.end() ? -1 : found - text.begin();
 }
 
 // Any text of capitals gives it.
@@ -61,14 +72,14 @@ int Line_Count(const QString& text, const QFont& font, int width, int most) {
     int lines = 0;
     qsizetype start = 0;
     while (lines <= most) {
-        const qsizetype end = text.indexOf(u'\n', start);
+        const qsizetype end = Paragraph_End(text, start);
         // What fills more lines than are asked for need not be laid out to its end.
         const qsizetype length = std::min(end == -1 ? text.size() - start : end - start,
                                           static_cast<qsizetype>(most + 1) * width);
         lines += Lines_OfParagraph(text.mid(start, length), font, width, most);
         if (end == -1)
             break;
-        start = end + 1;
+        start = end + (text.sliced(end).startsWith("\r\n"_L1) ? 2 : 1);
     }
     return lines;
 }

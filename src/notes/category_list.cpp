@@ -3,6 +3,7 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "notes/notes_operations.h"
+#include "platform/shown_text.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -37,7 +38,7 @@ void CategoryList::Fill(int selected) {
         auto* item = new QListWidgetItem(
             CatImg, name.simplified() + " ("_L1 + QString::number(counts[place]) + u')', this);
         item->setSizeHint(QSize(0, RowHeight));
-        item->setToolTip(u"<span>"_s + name.toHtmlEscaped() + u"</span>"_s);
+        item->setToolTip(platform::Tip_Text(name));
     }
     setCurrentRow(selected);
 }

@@ -2,10 +2,12 @@
 #include "platform/dialogs.h"
 
 #include "platform/providers.h"
+#include "platform/shown_text.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -77,7 +79,10 @@ public:
         auto* box = new QInputDialog(owner->window());
         box->setInputMode(QInputDialog::TextInput);
         box->setWindowTitle(title);
-        box->setLabelText(prompt);
+        box->setLabelText(Shown_Text(prompt));
+        for (QLabel* label : box->findChildren<QLabel*>()) {
+            label->setTextFormat(Qt::PlainText);
+        }
         box->setTextValue(text);
         if (auto* line = box->findChild<QLineEdit*>()) {
             line->setAccessibleName(prompt);
@@ -124,7 +129,7 @@ private:
     QMessageBox::StandardButton Show_Box(const BoxLook& look, const QString& text,
                                          QMessageBox::StandardButtons buttons,
                                          QMessageBox::StandardButton closing) {
-        QMessageBox box(Icon_Of(look.Style), look.Title, text, buttons);
+        QMessageBox box(Icon_Of(look.Style), look.Title, Shown_Text(text), buttons);
         box.setTextFormat(Qt::PlainText);
         box.setEscapeButton(closing);
         const auto answer = look.Default == Answer::No ? QMessageBox::No : QMessageBox::Yes;

@@ -2,6 +2,7 @@
 
 #include "controls/metrics.h"
 #include "controls/palette.h"
+#include "platform/shown_text.h"
 
 #include <QFocusEvent>
 #include <QFontMetricsF>
@@ -20,7 +21,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype PieceLength = 64; // glyphs
-constexpr int ToolTipLimit = 1000;    // characters; a longer tip would cover the screen
 
 // Breaks and tabs would leave the line.
 QString As_Line(QString text) {
@@ -101,13 +101,8 @@ int MessageText::Width_Of(const QString& text) {
 
 bool MessageText::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && !toolTip().isEmpty()) {
-        // Wrapped by being rich text, and so escaped: a reminder may hold anything.
-        QString tip = toolTip();
-        if (tip.size() > ToolTipLimit) {
-            tip = tip.first(ToolTipLimit) + QChar(0x2026);
-        }
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                           u"<p>"_s + tip.toHtmlEscaped() + u"</p>"_s, this);
+                           platform::Tip_Text(toolTip()), this);
         return true;
     }
     return QWidget::event(event);

@@ -7,6 +7,7 @@
 
 #include <QMenu>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -71,7 +72,7 @@ TEST_F(ReminderWindow, It_is_as_high_as_its_actions_and_its_buttons_stand_in_the
 }
 
 TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) {
-    const QString longCaption = u"Read what the whole neighbourhood has written"_s;
+    const QString longCaption = u"Read <b>what</b> the whole neighbourhood has written"_s;
     const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
     Reminder(index).SetFuncion(1, {true, FunctionType::OpenFile, 0, u"/file"_s, longCaption});
     Reminder(index).SetFuncion(2, {false, FunctionType::OpenFile, 0, u"/off"_s, u"off"_s});
@@ -80,7 +81,9 @@ TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) 
     ASSERT_EQ(buttons.size(), 4U);
     EXPECT_EQ(buttons[0]->width(), 160);
     EXPECT_TRUE(buttons[0]->Caption().endsWith(u'\u2026'));
-    EXPECT_EQ(buttons[0]->toolTip(), longCaption);
+    QTextDocument tip;
+    tip.setHtml(buttons[0]->toolTip());
+    EXPECT_EQ(tip.toPlainText(), longCaption);
     EXPECT_EQ(buttons[0]->accessibleName(), longCaption);
     EXPECT_EQ(buttons[1]->accessibleName(), u"Open /odd"_s);
     EXPECT_EQ(buttons[1]->width(), 160);
@@ -90,6 +93,8 @@ TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
     const std::tuple<const char*, QString, bool> cases[] = {
         {"three lines of 13 pixels", u"A\r\nB\r\nC"_s, false},
         {"four lines", u"A\r\nB\r\nC\r\nD"_s, true},
+        {"four lines by returns alone", u"A\rB\rC\rD"_s, true},
+        {"four lines by separators", u"A\u2029B\u2028C\u2029D"_s, true},
         {"nothing", QString(), false},
         {"one word of many lines", QString(300, u'W'), true},
         {"short after long", u"short"_s, false},
@@ -97,13 +102,14 @@ TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
     for (const auto& row : cases)
         Add_Typed(std::get<1>(row), ReminderType::NextToToolbar);
     frmImportantRWin* window = Show(0);
-    for (std::int32_t index = 0; index < 6; ++index) {
+    for (std::int32_t index = 0; index < static_cast<std::int32_t>(std::size(cases)); ++index) {
         window->UpdateWindow(index); // one window shows them one after the other
         const auto* text = window->findChild<QPlainTextEdit*>();
         EXPECT_EQ(text->verticalScrollBar()->isVisible(), std::get<2>(cases[index]))
             << std::get<0>(cases[index]);
         EXPECT_EQ(text->toPlainText().size(),
-                  std::get<1>(cases[index]).count(u'\r') * -1 + std::get<1>(cases[index]).size());
+                  QString(std::get<1>(cases[index])).remove("\r\n"_L1).size() +
+                      std::get<1>(cases[index]).count("\r\n"_L1));
     }
 }
 

@@ -125,7 +125,7 @@ TEST_F(Missed, A_row_is_delivered_by_a_double_click_and_by_Enter) {
     LoadAndShow_MissedReminders();
     ASSERT_NE(Window(), nullptr);
     EXPECT_FALSE(Window()->isVisible()); // nothing was missed
-    for (const QString& text : {u"one"_s, u"two"_s, u"three"_s})
+    for (const QString& text : {u"one"_s, u"two"_s, u"<b>three</b>"_s})
         Add(text, DateType::EveryDay).rs_Reminder_Type = ReminderType::InsideToolbar;
     LoadAndShow_MissedReminders();
     ASSERT_TRUE(Window()->isVisible());
@@ -142,7 +142,8 @@ TEST_F(Missed, A_row_is_delivered_by_a_double_click_and_by_Enter) {
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, lastRow);
     };
     Double_Click();
-    EXPECT_EQ(Global_ToolbarMessages[1].Text, u"three"_s);
+    EXPECT_EQ(Global_ToolbarMessages[1].Text, u"<b>three</b>"_s);
+    EXPECT_TRUE(list->item(2)->toolTip().contains("&lt;b&gt;three"_L1));
     Delete_ReminderSlot(2);
     Double_Click();
     EXPECT_FALSE(Global_ToolbarMessages[2].Active);

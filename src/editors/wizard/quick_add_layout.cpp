@@ -8,6 +8,7 @@
 #include "editors/pages/page_controls.h"
 #include "editors/wizard/frm_quick_add_reminder.h"
 #include "editors/wizard/page_parts.h"
+#include "platform/shown_text.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -93,7 +94,7 @@ void frmQuickAddReminder::Build_Days() {
     const int dateLeft = p2ChkImage[6]->x() + 20;
     Text5 = Add_Field(this, u"Text5"_s, u"Date"_s, {dateLeft, DaysTop + 21, 88, FieldHeight});
     Text5->setText(first.Date);
-    Text5->setToolTip(Global_DateFormat);
+    Text5->setToolTip(platform::Tip_Text(Global_DateFormat));
     connect(Text5, &QLineEdit::textEdited, this, [this] { Choose_Day(6); });
     wbButton* calendar =
         Add_Button(this, u"wbButton2"_s, {}, {dateLeft + 92, DaysTop + 20, 24, FieldHeight + 2});

@@ -3,6 +3,7 @@
 #include "controls/program_end.h"
 #include "links/menu/links_menu_v2.h"
 #include "platform/dialogs.h"
+#include "platform/shown_text.h"
 
 #include <QEnterEvent>
 #include <QHelpEvent>
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype LongestTip = 500;
 constexpr int WheelNotch = 120; // a step of the wheel, as the toolkit counts
 
 // A box of the program holds its timers.
@@ -185,10 +185,10 @@ void LinksMenuV2::Shift_To(int newShift) {
 QString LinksMenuV2::Tip_Of(int row) const {
     const QString& description = Item(row).Description;
     if (!description.isEmpty() && description != Caption(row))
-        return description.left(LongestTip);
+        return description;
     const int room = width() - MenuLeftMargin - MenuRightMargin;
     const bool isCut = fontMetrics().horizontalAdvance(Caption(row)) > room;
-    return isCut ? Caption(row).left(LongestTip) : QString();
+    return isCut ? Caption(row) : QString();
 }
 
 void LinksMenuV2::Show_Tip(const QHelpEvent& asked) {
@@ -197,8 +197,7 @@ void LinksMenuV2::Show_Tip(const QHelpEvent& asked) {
     if (tip.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(asked.globalPos(), u"<qt>"_s + tip.toHtmlEscaped() + u"</qt>"_s, this,
-                           Row_Rect(row));
+        QToolTip::showText(asked.globalPos(), platform::Tip_Text(tip), this, Row_Rect(row));
 }
 
 bool LinksMenuV2::event(QEvent* event) {
