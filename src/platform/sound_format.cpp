@@ -12,6 +12,7 @@ namespace platform {
 namespace {
 
 constexpr qsizetype StartSize = 65536;
+constexpr int MostChunks = 10'000; // a wave has about five
 
 unsigned Byte_At(const QByteArray& bytes, qsizetype at) {
     return static_cast<unsigned char>(bytes.at(at));
@@ -31,25 +32,17 @@ bool Is_Known_Coding(unsigned coding) {
     return std::find(Known.begin(), Known.end(), coding) != Known.end();
 }
 
-// A wave has to say how its samples are coded before they begin.
-bool Is_Wave(const QByteArray& start) {
-    if (!start.startsWith("RIFF") || start.mid(8, 4) != "WAVE") {
-        return false;
+// What the format chunk says; nothing when nobody could play it.
+std::optional<WaveShape> Read_Shape(const QByteArray& format) {
+    if (format.size() < 16 || !Is_Known_Coding(Word_At(format, 0)) || Word_At(format, 2) == 0 ||
+        Long_At(format, 4) == 0) {
+        return std::nullopt;
     }
-    bool isCodingKnown = false;
-    for (qsizetype at = 12; at + 8 <= start.size();) {
-        const QByteArray chunk = start.mid(at, 4);
-        const qsizetype size = Long_At(start, at + 4);
-        if (chunk == "data") {
-            return isCodingKnown && size > 0 && at + 8 < start.size();
-        }
-        if (chunk == "fmt " && size >= 14 && at + 24 <= start.size()) {
-            isCodingKnown = Is_Known_Coding(Word_At(start, at + 8)) &&
-                            Word_At(start, at + 10) > 0 && Long_At(start, at + 12) > 0;
-        }
-        at += 8 + size + size % 2;
-    }
-    return false;
+    WaveShape shape;
+    shape.Channels = static_cast<int>(Word_At(format, 2));
+    shape.Frequency = Long_At(format, 4);
+    shape.SampleBits = static_cast<int>(std::max(Word_At(format, 14), 1U));
+    return shape;
 }
 
 // Bytes of an MPEG audio frame of layer 1 to 3 by its header; 0 when it is none.
@@ -81,6 +74,11 @@ qsizetype Frame_Size(const QByteArray& bytes, qsizetype at) {
         return (12LL * bits / samples + padding) * 4;
     }
     return (layer == 3 && version != 3 ? 72LL : 144LL) * bits / samples + padding;
+}
+
+// The test comes first: opening a pipe would wait for its other end.
+bool Open_File(QFile& file) {
+    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly);
 }
 
 // Two frames one behind the other: a single header can stand in any file by chance.
@@ -120,16 +118,49 @@ qint64 Tag_Size(const QByteArray& start) {
 
 } // namespace
 
+// The chunks may come in any number and size before the samples; their coding has to be told first.
+std::optional<WaveShape> Shape_Of_Wave(const QString& path) {
+    QFile file(path);
+    if (!Open_File(file)) {
+        return std::nullopt;
+    }
+    const QByteArray start = file.read(12);
+    if (!start.startsWith("RIFF") || start.mid(8) != "WAVE") {
+        return std::nullopt;
+    }
+    std::optional<WaveShape> shape;
+    qint64 at = start.size();
+    for (int chunk = 0; chunk < MostChunks && file.seek(at); ++chunk) {
+        const QByteArray head = file.read(8);
+        if (head.size() < 8) {
+            break;
+        }
+        const qint64 size = Long_At(head, 4);
+        if (head.startsWith("data")) {
+            const qint64 there = std::min(size, file.size() - at - 8);
+            if (shape && there > 0) {
+                shape->DataSize = there;
+                return shape;
+            }
+            break;
+        }
+        if (head.startsWith("fmt ")) {
+            shape = Read_Shape(file.read(std::min<qint64>(size, 16)));
+        }
+        at += 8 + size + size % 2;
+    }
+    return std::nullopt;
+}
+
 SoundFormat Format_Of_File(const QString& path) {
     QFile file(path);
-    // The test comes first: opening a pipe would wait for its other end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!Open_File(file)) {
         return SoundFormat::None;
     }
-    QByteArray start = file.read(StartSize);
-    if (Is_Wave(start)) {
+    if (Shape_Of_Wave(path)) {
         return SoundFormat::PlainWave;
     }
+    QByteArray start = file.read(StartSize);
     const bool isAiff = start.startsWith("FORM") && start.mid(8, 4).startsWith("AIF");
     if (start.startsWith("fLaC") || isAiff || Is_Ogg(start) || Is_Module(start)) {
         return SoundFormat::Other;

@@ -98,6 +98,10 @@ TEST_F(MediaTest, a_file_is_judged_by_its_bytes) {
         {"a wave that ends in its head", wave.left(40), SoundFormat::None},
         {"a wave of no samples", sounds::Wave(500, 0), SoundFormat::None},
         {"a wave in a coding nobody knows", sounds::Wave(500, 10, 0x55), SoundFormat::None},
+        {"a wave whose samples come late",
+         wave.left(36) + "LIST" + sounds::Little_Endian(70'001, 4) + QByteArray(70'002, 'x') +
+             wave.mid(36),
+         SoundFormat::PlainWave},
         {"an MP3", frames, SoundFormat::Other},
         {"an MP3 behind a long title", tag + QByteArray(0x3D0, '\0') + frames, SoundFormat::Other},
         {"an OGG", "OggS" + QByteArray(24, '\0') + "\x01vorbis", SoundFormat::Other},
@@ -178,6 +182,32 @@ TEST_F(MediaTest, closing_a_sound_stops_it_and_a_position_skips_its_start) {
     Record_To(folder.filePath(u"skipped.raw"_s));
     media->Send_String(u"PLAY b FROM 3500"_s);
     EXPECT_NEAR(Heard_In_The_End().seconds, 0.5, 0.02);
+}
+
+TEST_F(MediaTest, a_sound_of_any_length_costs_little_memory) {
+    const auto peak = [] {
+        QFile status(u"/proc/self/status"_s);
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly));
+        const QByteArray text = status.readAll();
+        return text.mid(text.indexOf("VmHWM:") + 6).trimmed().split(' ').front().toLongLong();
+    };
+    // 17 minutes of one byte a sample: short as a file, and twenty times that on the output.
+    constexpr std::uint32_t Samples = 8'300'000;
+    const QString wave =
+        Put(u"long.wav"_s, sounds::Wave(500, 1).left(28) + sounds::Little_Endian(8000, 4) +
+                               sounds::Little_Endian(1, 2) + sounds::Little_Endian(8, 2) + "data" +
+                               sounds::Little_Endian(Samples, 4) + QByteArray(Samples, '\x80'));
+    const auto media = platform::Make_Media();
+    QFile peakReset(u"/proc/self/clear_refs"_s);
+    ASSERT_TRUE(peakReset.open(QIODevice::WriteOnly) && peakReset.write("5") == 1);
+    peakReset.close();
+    const auto before = peak();
+    Record_To(folder.filePath(u"long.raw"_s));
+    ASSERT_EQ(media->Send_String(u"OPEN "_s + wave + u" TYPE waveaudio ALIAS a"_s), 0);
+    media->Send_String(u"PLAY a FROM 0"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFileInfo(output).size() > 44'100; }, 20'000));
+    EXPECT_LT(peak() - before, 32 * 1024) << "kB";
+    media->Send_String(u"CLOSE a"_s);
 }
 
 TEST_F(MediaTest, the_tone_is_heard) {

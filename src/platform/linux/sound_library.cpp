@@ -19,7 +19,9 @@ bool Find_All(void* from, SoundLibrary& all) {
            Find(from, "SDL_TLSCleanup", all.CleanUpThread) &&
            Find(from, "Mix_OpenAudioDevice", all.OpenAudioDevice) &&
            Find(from, "Mix_CloseAudio", all.CloseAudio) &&
-           Find(from, "Mix_LoadMUS", all.LoadMusic) && Find(from, "Mix_FreeMusic", all.FreeMusic) &&
+           Find(from, "SDL_RWFromFile", all.OpenFile) && Find(from, "Mix_LoadMUS", all.LoadMusic) &&
+           Find(from, "Mix_LoadMUSType_RW", all.LoadMusicOfType) &&
+           Find(from, "Mix_FreeMusic", all.FreeMusic) &&
            Find(from, "Mix_FadeInMusicPos", all.FadeInMusicPos) &&
            Find(from, "Mix_PlayingMusic", all.PlayingMusic) &&
            Find(from, "Mix_LoadWAV", all.LoadWave) &&

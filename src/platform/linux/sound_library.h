@@ -14,7 +14,9 @@ struct SoundLibrary {
     decltype(&SDL_TLSCleanup) CleanUpThread = nullptr;
     decltype(&Mix_OpenAudioDevice) OpenAudioDevice = nullptr;
     decltype(&Mix_CloseAudio) CloseAudio = nullptr;
+    decltype(&SDL_RWFromFile) OpenFile = nullptr;
     decltype(&Mix_LoadMUS) LoadMusic = nullptr;
+    decltype(&Mix_LoadMUSType_RW) LoadMusicOfType = nullptr;
     decltype(&Mix_FreeMusic) FreeMusic = nullptr;
     decltype(&Mix_FadeInMusicPos) FadeInMusicPos = nullptr;
     decltype(&Mix_PlayingMusic) PlayingMusic = nullptr;

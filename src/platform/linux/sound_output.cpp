@@ -3,7 +3,6 @@
 #include "platform/sound_format.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -20,7 +19,9 @@ constexpr int BufferSamples = 2048;
 
 constexpr int ToneChannel = 0;
 constexpr int FileChannel = 1;
-constexpr qint64 LongFile = 8LL << 20U; // bytes; a longer one is read while it plays
+// A longer wave is read while it plays, so that its length costs no memory.
+constexpr double LongSound = 20;        // seconds
+constexpr qint64 LongFile = 4LL << 20U; // bytes
 
 constexpr double TonePitch = 880;     // Hz
 constexpr double ToneSeconds = 0.15;  //
@@ -84,10 +85,16 @@ void SoundOutput::Close() {
 
 bool SoundOutput::Play_File(const std::string& path, int from) {
     Stop_File();
-    if (Play_Wave(path, from)) {
-        return true;
+    const auto shape = Shape_Of_Wave(QFile::decodeName(path.c_str()));
+    if (shape && shape->Seconds() < LongSound && shape->DataSize < LongFile) {
+        return Play_Whole(path, from);
     }
-    music = library->LoadMusic(path.c_str());
+    // A wave is one by its bytes: the library would go by the name.
+    music = shape ? library->LoadMusicOfType(library->OpenFile(path.c_str(), "rb"), MUS_WAV, 1)
+                  : library->LoadMusic(path.c_str());
+    if (shape && music == nullptr) {
+        return Play_Whole(path, from); // a coding that the library reads in one piece only
+    }
     // Once, without fading; the place is taken before the first sample sounds.
     if (music == nullptr || library->FadeInMusicPos(music, 1, 0, from / 1000.0) != 0) {
         Stop_File();
@@ -98,11 +105,7 @@ bool SoundOutput::Play_File(const std::string& path, int from) {
 
 // The library's way for long files loses the last moments of a wave of another frequency, which
 // may be all of a short one.
-bool SoundOutput::Play_Wave(const std::string& path, int from) {
-    const QString name = QFile::decodeName(path.c_str());
-    if (QFileInfo(name).size() > LongFile || Format_Of_File(name) != SoundFormat::PlainWave) {
-        return false;
-    }
+bool SoundOutput::Play_Whole(const std::string& path, int from) {
     wave = library->LoadWave(path.c_str());
     const std::int64_t skipped =
         std::int64_t{std::max(from, 0)} * Frequency / 1000 * Channels * SampleSize;

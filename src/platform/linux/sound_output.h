@@ -28,7 +28,7 @@ public:
     bool Is_Sounding() const;
 
 private:
-    bool Play_Wave(const std::string& path, int from);
+    bool Play_Whole(const std::string& path, int from);
 
     const SoundLibrary* library = nullptr;
     Mix_Music* music = nullptr;
