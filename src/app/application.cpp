@@ -63,22 +63,30 @@ void Application::Connect_Timers() {
     timers.On_Tick(TimerName::TK_AppMessage_Timer, [this] {
         if (Show_IsWaiting()) {
             timers.Enable(TimerName::TK_AppMessage_Timer, false);
-            mainForm->AutoHide_ShowProc(false);
-            platform::Desktop::Get().Beep();
+            if (!mainForm->Toolbar_Visible()) {
+                mainForm->AutoHide_ShowProc(false);
+                platform::Desktop::Get().Beep();
+            }
+            if (QApplication::activeModalWidget() == nullptr) {
+                mainForm->Activate();
+            }
         }
     });
 }
 
 void Application::Show_Again() {
+    QWidget* box = QApplication::activeModalWidget();
+    if (box != nullptr) {
+        platform::Windows::Get().Activate(box->winId());
+    }
     if (Program_Is_Ending() || mainForm == nullptr) {
         return;
     }
-    if (QWidget* box = QApplication::activeModalWidget()) {
-        platform::Windows::Get().Activate(box->winId());
-    } else if (mainForm->isVisible()) {
+    if (box == nullptr && mainForm->isVisible()) {
         mainForm->Activate();
     } else {
         // The timer runs only while there is something to read: a toolbar in the tray wakes nobody.
+        // A box that holds the timers comes first, and the strip after it.
         Post_AppMessage(u"Show"_s);
         timers.Enable(TimerName::TK_AppMessage_Timer);
     }

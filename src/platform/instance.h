@@ -16,13 +16,14 @@ enum class LaunchRole {
 
 class Instance : public Service<Instance> {
 public:
-    // Decides by a file lock on the folder's name. While another copy holds it, that copy is asked
-    // to show itself; one that is ending is waited for, and its place taken.
+    // Decides by a file lock in the folder. While another copy holds it, that copy is asked to show
+    // itself; one that is ending is waited for without limit, and its place taken.
     virtual LaunchRole Launch(const QString& programFolder) = 0;
     // What a later launch asks of this copy. Called from the event loop; requests that came before
     // are delivered then.
     virtual void On_Show(std::function<void()> handler) = 0;
-    // From now on later launches wait for the end of this process instead of waking it.
+    // From now on later launches wait for the end of this process. The handler is still told of
+    // them: a box may be open.
     virtual void Begin_Ending() = 0;
 };
 

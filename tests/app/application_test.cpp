@@ -22,6 +22,7 @@
 #include "support/fake_system.h"
 #include "toolbar/main_form.h"
 
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
@@ -216,7 +217,13 @@ TEST_F(Program, A_Later_Launch_Brings_A_Visible_Toolbar_Forward_And_Sends_Show_T
     Clear_AppMessage();
     Global_Timers->Tick(TimerName::TK_AppMessage_Timer);
     EXPECT_FALSE(program.Main_Form()->isVisible()) << "nothing came yet";
-    program.Show_Again();
+    {
+        QDialog box;
+        box.setModal(true);
+        box.show();
+        program.Show_Again(); // the box first, and the strip after it
+        EXPECT_EQ(system.windows.windows[box.winId()].activations, 1);
+    }
     EXPECT_TRUE(Global_Timers->Is_Enabled(TimerName::TK_AppMessage_Timer));
     Global_Timers->Tick(TimerName::TK_AppMessage_Timer);
     EXPECT_FALSE(Global_Timers->Is_Enabled(TimerName::TK_AppMessage_Timer));

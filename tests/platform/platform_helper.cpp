@@ -20,20 +20,24 @@ void Say(const char* word) {
     std::fflush(stdout);
 }
 
-int Be_Launched(const QString& folder) {
+int Be_Launched(const QString& folder, bool isReady) {
     const auto instance = platform::Make_Instance();
     if (instance->Launch(folder) != platform::LaunchRole::First) {
         Say("handed over");
         return 0;
     }
     Say("first");
+    const auto Be_Ready = [&] { instance->On_Show([] { Say("shown"); }); };
+    if (isReady) {
+        Be_Ready();
+    }
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, qGuiApp, [&] {
         std::string command;
         if (!std::getline(std::cin, command) || command == "quit") {
             qGuiApp->quit();
         } else if (command == "ready") {
-            instance->On_Show([] { Say("shown"); });
+            Be_Ready();
         } else if (command == "end") {
             instance->Begin_Ending();
             Say("ending");
@@ -68,6 +72,6 @@ int Be_Ended(const QString& how) {
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
     const QStringList words = QGuiApplication::arguments();
-    return words.value(1) == QLatin1String("launch") ? Be_Launched(words.value(2))
+    return words.value(1) == QLatin1String("launch") ? Be_Launched(words.value(2), words.size() < 4)
                                                      : Be_Ended(words.value(2));
 }

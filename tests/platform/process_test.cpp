@@ -1,4 +1,5 @@
 // One copy among several processes, and the ways in which a process is ended.
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -77,11 +78,13 @@ TEST_F(Launches, of_several_at_once_exactly_one_stays) {
 }
 
 TEST_F(Launches, a_request_that_comes_during_the_load_is_kept) {
-    Helper first(Words());
+    Helper first(Words() + QStringList{u"loading"_s});
     ASSERT_EQ(first.Word(), u"first"_s);
-    EXPECT_EQ(Helper(Words()).Word(), u"handed over"_s);
+    Helper second(Words());
+    EXPECT_FALSE(second.Speaks_Within(300)); // it would start if the first did not come so far
     first.Tell("ready");
     EXPECT_EQ(first.Word(), u"shown"_s);
+    EXPECT_EQ(second.Word(), u"handed over"_s);
     EXPECT_EQ(Helper(Words()).Word(), u"handed over"_s);
     EXPECT_EQ(first.Word(), u"shown"_s);
 }
@@ -101,6 +104,7 @@ TEST_F(Launches, one_that_ends_is_waited_for_and_followed) {
     ending.Tell("end");
     ASSERT_EQ(ending.Word(), u"ending"_s);
     Helper next(Words());
+    EXPECT_EQ(ending.Word(), u"shown"_s);  // what is open may come forward
     EXPECT_FALSE(next.Speaks_Within(300)); // the first may still be saving
     ending.Tell("quit");
     EXPECT_EQ(ending.Exit_Code(), 0);
@@ -114,6 +118,13 @@ TEST_F(Launches, another_folder_is_another_program) {
     EXPECT_EQ(Helper({u"launch"_s, other.path()}).Word(), u"first"_s);
     // The same folder by another name is the same program.
     EXPECT_EQ(Helper({u"launch"_s, home.path() + u"/."_s}).Word(), u"handed over"_s);
+    qunsetenv("XDG_RUNTIME_DIR"); // and from another environment
+    EXPECT_EQ(Helper(Words()).Word(), u"handed over"_s);
+    const QStringList deep{u"launch"_s, home.path() + u'/' + QString(200, u'd')};
+    ASSERT_TRUE(QDir().mkpath(deep.last()));
+    Helper far(deep);
+    ASSERT_EQ(far.Word(), u"first"_s);
+    EXPECT_EQ(Helper(deep).Word(), u"handed over"_s);
 }
 
 TEST(SessionEnd, every_signal_that_ends_a_program_is_told_once) {

@@ -10,11 +10,15 @@
 #include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QPointer>
 #include <QThread>
 #include <QTimer>
 
+#include <array>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,13 +27,11 @@ namespace platform {
 
 namespace {
 
-constexpr int Patience = 30'000; // ms that a second launch waits for the first
-constexpr int Step = 50;         // ms between two looks at the lock
+constexpr int Step = 50; // ms between two looks at the lock
 constexpr char Request[] = "Show\n";
 constexpr char Consent[] = "shown\n";
 
-// Paths of sockets are short (108 bytes): the name is a hash. The user is part of it because one
-// machine's copies may share their folder.
+// Paths of sockets are short (108 bytes): the name is a hash.
 QString Name_Of(const QString& programFolder) {
     const QString canonical = QFileInfo(programFolder).canonicalFilePath();
     const QByteArray key = QByteArray::number(getuid()) + '\n' +
@@ -43,6 +45,9 @@ class Asking {
 public:
     // Spends about one step on it. True once the running copy has agreed.
     bool Advance(const QString& path) {
+        if (path.isEmpty()) {
+            return false;
+        }
         if (socket.state() == QLocalSocket::UnconnectedState) {
             socket.connectToServer(path);
             if (!socket.waitForConnected(Step)) {
@@ -62,33 +67,76 @@ private:
     QLocalSocket socket;
 };
 
+enum class LockState { Taken, Held, Unusable };
+
+// The lock of a program folder. It lies beside the data, so that no environment leads past it, and
+// holds the path of the socket on which its holder listens.
+class FolderLock {
+public:
+    // Held: another copy has it.
+    LockState Take(const QString& programFolder) {
+        const QString user = QString::number(getuid());
+        const LockState state = Take_File(programFolder + u"/.tockly-"_s + user + u".lock"_s);
+        if (state != LockState::Unusable) {
+            return state;
+        }
+        // Nothing can be saved in a folder without rights, but one strip is enough there too.
+        const QString own = Own_Folder();
+        return own.isEmpty() ? state : Take_File(own + u'/' + Name_Of(programFolder) + u".lock"_s);
+    }
+    void Write_Socket(const QString& socket) {
+        const QByteArray text = QFile::encodeName(socket);
+        static_cast<void>(
+            ftruncate(file.Number(), 0) == 0 &&
+            pwrite(file.Number(), text.constData(), static_cast<std::size_t>(text.size()), 0) > 0);
+    }
+    QString Read_Socket() const {
+        std::array<char, 256> text{};
+        const ssize_t size = pread(file.Number(), text.data(), text.size(), 0);
+        return QFile::decodeName(QByteArray(text.data(), std::max<qsizetype>(size, 0)));
+    }
+
+private:
+    LockState Take_File(const QString& path) {
+        // Closed in every program that is started from here, or it would hold the lock after us.
+        file = Descriptor(open(QFile::encodeName(path).constData(),
+                               O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+        if (!file.Is_Open()) {
+            return LockState::Unusable;
+        }
+        if (flock(file.Number(), LOCK_EX | LOCK_NB) == 0) {
+            return LockState::Taken;
+        }
+        return errno == EWOULDBLOCK || errno == EINTR ? LockState::Held : LockState::Unusable;
+    }
+
+    Descriptor file;
+};
+
 class LinuxInstance : public Instance {
 public:
     LaunchRole Launch(const QString& programFolder) override {
-        const QString folder = Runtime_Folder();
-        if (folder.isEmpty()) {
-            return LaunchRole::First; // a program that starts twice beats one that never starts
-        }
-        const QString base = folder + u'/' + Name_Of(programFolder);
-        if (!Open_Lock(base + u".lock"_s)) {
-            return LaunchRole::First;
-        }
-        QElapsedTimer waited;
-        waited.start();
         Asking asking;
-        while (!Take_Lock()) {
+        for (;;) {
             QElapsedTimer step;
             step.start();
-            if (asking.Advance(base + u".socket"_s) || waited.elapsed() > Patience) {
-                lock.Close();
+            const LockState state = lock.Take(programFolder);
+            if (state == LockState::Unusable) {
+                return LaunchRole::First; // a program that starts twice beats one that never starts
+            }
+            if (state == LockState::Taken) {
+                Listen(Name_Of(programFolder));
+                return LaunchRole::First;
+            }
+            // Whoever does not answer is saving, or tells what could not be saved: the end of that
+            // is waited for, however long it takes.
+            if (asking.Advance(lock.Read_Socket())) {
                 return LaunchRole::HandedOver;
             }
             if (step.elapsed() < Step) { // refused at once
                 QThread::msleep(static_cast<unsigned long>(Step - step.elapsed()));
             }
         }
-        Listen(base + u".socket"_s);
-        return LaunchRole::First;
     }
 
     void On_Show(std::function<void()> handler) override {
@@ -96,67 +144,61 @@ public:
         Deliver_Later();
     }
 
-    void Begin_Ending() override {
-        isEnding = true;
-        server.close();
-        for (QLocalSocket* socket : server.findChildren<QLocalSocket*>()) {
-            socket->abort(); // who still waits for an answer turns to the lock
-        }
-    }
+    void Begin_Ending() override { isEnding = true; }
 
 private:
-    bool Open_Lock(const QString& path) {
-        // Closed in every program that is started from here, or it would hold the lock after us.
-        lock = Descriptor(
-            open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
-        return lock.Is_Open();
-    }
-
-    bool Take_Lock() { return flock(lock.Number(), LOCK_EX | LOCK_NB) == 0; }
-
-    void Listen(const QString& path) {
-        QLocalServer::removeServer(path); // left by a copy that was killed
+    void Listen(const QString& name) {
         server.setSocketOptions(QLocalServer::UserAccessOption);
         QObject::connect(&server, &QLocalServer::newConnection, &server, [this] { Accept(); });
-        server.listen(path);
+        for (const QString& folder : Runtime_Folders()) {
+            const QString path = folder + u'/' + name + u".socket"_s;
+            QLocalServer::removeServer(path); // left by a copy that was killed
+            if (server.listen(path)) {
+                lock.Write_Socket(path);
+                return;
+            }
+        }
+        lock.Write_Socket({});
     }
 
     void Accept() {
         while (QLocalSocket* socket = server.nextPendingConnection()) {
             QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
             QObject::connect(socket, &QLocalSocket::readyRead, socket,
-                             [this, socket] { Answer_To(*socket); });
-            Answer_To(*socket); // the line may have come with the connection
+                             [this, socket] { Take_Request(*socket); });
+            Take_Request(*socket); // the line may have come with the connection
         }
     }
 
-    void Answer_To(QLocalSocket& socket) {
-        if (isEnding || !socket.canReadLine() || socket.readLine() != Request) {
-            return;
+    void Take_Request(QLocalSocket& socket) {
+        if (socket.canReadLine() && socket.readLine() == Request) {
+            waiting.append(QPointer(&socket));
+            Deliver_Later();
         }
-        socket.write(Consent);
-        socket.flush();
-        ++waiting;
-        Deliver_Later();
     }
 
     void Deliver_Later() {
         QTimer::singleShot(0, &server, [this] { Deliver(); });
     }
 
+    // Only what is carried out is agreed to. At the end nothing is, but the handler may have a box
+    // to bring forward.
     void Deliver() {
         // The handler may run a loop of its own: what comes then is its own delivery's.
-        while (onShow && !isEnding && waiting > 0) {
-            --waiting;
+        while (onShow && !waiting.isEmpty()) {
+            if (const QPointer<QLocalSocket> asker = waiting.takeFirst(); asker && !isEnding) {
+                asker->write(Consent);
+                asker->flush();
+            }
             const auto handler = onShow;
             handler();
         }
     }
 
-    Descriptor lock;
+    FolderLock lock;
     QLocalServer server;
     std::function<void()> onShow;
-    int waiting = 0;
+    QList<QPointer<QLocalSocket>> waiting; // each asks for one show
     bool isEnding = false;
 };
 

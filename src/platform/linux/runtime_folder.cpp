@@ -20,14 +20,22 @@ bool Is_Private(const QString& folder) {
 
 } // namespace
 
-QString Runtime_Folder() {
-    QString given = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (given.startsWith(u'/') && Is_Private(given)) {
-        return given;
-    }
+QString Own_Folder() {
     QString own = u"/tmp/tockly-"_s + QString::number(getuid());
     mkdir(QFile::encodeName(own).constData(), 0700);
     return Is_Private(own) ? own : QString();
+}
+
+QStringList Runtime_Folders() {
+    const QString given = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    QStringList folders;
+    if (given.startsWith(u'/') && Is_Private(given)) {
+        folders.append(given);
+    }
+    if (const QString own = Own_Folder(); !own.isEmpty()) {
+        folders.append(own);
+    }
+    return folders;
 }
 
 } // namespace platform
