@@ -7,7 +7,9 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -71,8 +73,46 @@ TEST(Paths, the_named_folder_is_made_and_files_are_looked_for_there_first) {
     EXPECT_EQ(paths->Shipped_File(program), home + u'/' + program);
 }
 
-TEST(Paths, the_program_lives_beside_its_executable_where_it_may_write) {
+TEST(Paths, the_data_lie_with_the_users_others_and_beside_a_portable_program) {
+    const QTemporaryDir data;
+    qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
+    EXPECT_EQ(platform::Make_Paths()->Program_Folder(), data.filePath(u"tockly"_s));
+    QFile mark(QCoreApplication::applicationDirPath() + u"/portable"_s);
+    ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
     EXPECT_EQ(platform::Make_Paths()->Program_Folder(), QCoreApplication::applicationDirPath());
+    mark.remove();
+    qunsetenv("XDG_DATA_HOME");
+}
+
+TEST(Paths, the_data_beside_an_earlier_build_are_taken_along_and_replace_nothing) {
+    const QTemporaryDir folder;
+    const auto put = [&](const QString& name, const char* text) {
+        QDir().mkpath(QFileInfo(folder.filePath(name)).path());
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+    };
+    put(u"old/User-1/notes.dat"_s, "old");
+    put(u"old/User-2/notes.dat"_s, "old");
+    put(u"old/HKEY_LOCAL_MACHINE.reg"_s, "old");
+    put(u"old/tooltips.txt"_s, "shipped");
+    put(u"new/User-2/notes.dat"_s, "new");
+    for (int time = 0; time < 2; ++time) {
+        QProcess script;
+        script.start(u"bash"_s,
+                     {u"-euc"_s, u". \"$1\"; bring_data \"$2/old\" \"$2/new\""_s, u"bash"_s,
+                      QStringLiteral(TOCKLY_SCRIPTS "/data.sh"), folder.path()});
+        ASSERT_TRUE(script.waitForFinished() && script.exitCode() == 0);
+    }
+    const auto text = [&](const char* name) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    };
+    EXPECT_EQ(text("new/User-1/notes.dat"), "old");
+    EXPECT_EQ(text("old/User-1/notes.dat"), "none");
+    EXPECT_EQ(text("new/User-2/notes.dat"), "new");
+    EXPECT_EQ(text("old/User-2/notes.dat"), "old");
+    EXPECT_EQ(text("new/HKEY_LOCAL_MACHINE.reg"), "old");
+    EXPECT_EQ(text("new/tooltips.txt"), "none");
 }
 
 TEST(Session, a_date_format_of_the_toolkit_becomes_a_pattern) {

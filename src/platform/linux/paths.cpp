@@ -7,17 +7,11 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace platform {
 
 namespace {
-
-bool Can_Write(const QString& folder) {
-    return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
-}
 
 QString Choose_Program_Folder() {
     const QString named = qEnvironmentVariable("TOCKLY_HOME");
@@ -25,8 +19,7 @@ QString Choose_Program_Folder() {
         return QDir::cleanPath(QDir(named).absolutePath());
     }
     QString beside = QCoreApplication::applicationDirPath();
-    const QString name = QFileInfo(beside).fileName();
-    if (name != "bin"_L1 && name != "sbin"_L1 && Can_Write(beside)) {
+    if (QFileInfo::exists(beside + u"/portable"_s)) {
         return beside;
     }
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/tockly"_s;
