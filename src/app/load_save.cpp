@@ -114,11 +114,17 @@ void Application::Load_Settings() {
     defaults.AccountIsTaken = [this](std::int32_t number) {
         return Account_Is_Taken(programFolder, number);
     };
+    defaults.AccountIsClosed = [this](std::int32_t number) {
+        return Account_Is_Closed(programFolder, number);
+    };
     Load_Global_Settings(defaults);
 }
 
 void Application::Open_UserFolder() {
-    Open_Account(programFolder, Global_CurID);
+    if (!Open_Account(programFolder, Global_CurID)) {
+        Show_Error(u"The folder for your data cannot be made:\r\n"_s + Global_UserPath +
+                   u"\r\nNothing that you enter will be saved."_s);
+    }
 }
 
 void Application::Load_CategoryTable() {
@@ -159,8 +165,8 @@ void Application::Load_LinkTable() {
 }
 
 void Application::Load_NoteTable() {
-    const NotesLoad result =
-        Load_AccountNotes(Global_UserPath, programFolder + "/examplenotes.dat"_L1);
+    const NotesLoad result = Load_AccountNotes(
+        Global_UserPath, platform::Paths::Get().Shipped_File(u"examplenotes.dat"_s));
     if (result == NotesLoad::UnknownVersion) {
         Show_Error(u"Error loading notes (file version not supported)"_s);
     } else if (result == NotesLoad::Invalid) {

@@ -23,8 +23,8 @@ public:
     // As Replace, with the content of another file. Fails when "to" exists and overwrite is false.
     virtual bool Copy(const QString& from, const QString& to, bool overwrite) = 0;
     virtual bool Make_Folder(const QString& path) = 0;
-    // The names of the files in a folder that hold no byte; none when it cannot be read.
-    virtual QStringList Empty_Files(const QString& folder) = 0;
+    // The names of the files in a folder that hold no byte; nothing when it cannot be listed.
+    virtual std::optional<QStringList> Empty_Files(const QString& folder) = 0;
 };
 
 } // namespace platform

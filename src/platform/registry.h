@@ -51,6 +51,8 @@ public:
                        const RegistryValue& value) = 0;
     virtual bool Delete_Value(RegistryRoot root, const QString& path, const QString& name) = 0;
     virtual std::vector<QString> Value_Names(RegistryRoot root, const QString& path) = 0;
+    // False when the root is there and may not be read: no value of it is known then.
+    virtual bool Is_Readable(RegistryRoot root) = 0;
 };
 
 } // namespace platform

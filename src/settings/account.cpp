@@ -1,6 +1,7 @@
 #include "settings/account.h"
 
 #include "platform/files.h"
+#include "platform/registry.h"
 #include "platform/session.h"
 
 #include <QStringList>
@@ -27,29 +28,44 @@ QString Account_Folder(const QString& programFolder, std::int32_t number) {
 
 } // namespace
 
-bool Account_Is_Taken(const QString& programFolder, std::int32_t number) {
+bool Account_Is_Closed(const QString& programFolder, std::int32_t number) {
+    auto& files = platform::Files::Get();
     const QString folder = Account_Folder(programFolder, number);
-    QStringList markers;
-    for (const QString& name : platform::Files::Get().Empty_Files(folder))
-        if (May_Be_Marker(name))
-            markers.append(name);
-    return !markers.isEmpty() && !markers.contains(platform::Session::Get().User_Name());
+    return files.Exists(folder) && !files.Empty_Files(folder);
 }
 
-void Open_Account(const QString& programFolder, std::int32_t number) {
+bool Account_Is_Taken(const QString& programFolder, std::int32_t number) {
+    auto& files = platform::Files::Get();
+    const QString folder = Account_Folder(programFolder, number);
+    if (!files.Exists(folder))
+        return false;
+    const auto empty = files.Empty_Files(folder);
+    if (!empty)
+        return true;
+    QStringList markers;
+    for (const QString& name : *empty)
+        if (May_Be_Marker(name))
+            markers.append(name);
+    if (markers.contains(platform::Session::Get().User_Name()))
+        return false;
+    return !markers.isEmpty() ||
+           !platform::Registry::Get().Is_Readable(platform::RegistryRoot::LocalMachine);
+}
+
+bool Open_Account(const QString& programFolder, std::int32_t number) {
     Global_UserPath = Account_Folder(programFolder, number);
     auto& files = platform::Files::Get();
     if (!files.Exists(Global_UserPath)) {
         files.Make_Folder(Global_UserPath);
     }
     const QString user = platform::Session::Get().User_Name();
-    if (!May_Be_Marker(user)) {
-        return;
+    if (May_Be_Marker(user)) {
+        const auto marker = files.Read(Account_File(user));
+        if (!marker || !marker->empty()) {
+            files.Replace(Account_File(user), {});
+        }
     }
-    const auto marker = files.Read(Account_File(user));
-    if (!marker || !marker->empty()) {
-        files.Replace(Account_File(user), {});
-    }
+    return files.Empty_Files(Global_UserPath).has_value();
 }
 
 QString Account_File(const QString& name) {

@@ -122,8 +122,9 @@ void Write_Row(const clsRegistryAccess& registry, const SettingRow& row) {
         registry.WriteDWORD(key, name, *std::get<std::int32_t*>(row.Target));
 }
 
-void Assign_Account(const std::function<bool(std::int32_t)>& isTaken) {
-    if (Global_CurID != -1)
+void Assign_Account(const SettingsDefaults& defaults) {
+    const auto& isTaken = defaults.AccountIsTaken;
+    if (Global_CurID != -1 && !(defaults.AccountIsClosed && defaults.AccountIsClosed(Global_CurID)))
         return;
     do {
         Global_CurID = Global_MaxAccountID;
@@ -148,7 +149,7 @@ void Load_Global_Settings(const SettingsDefaults& defaults) {
     // Twips, although a toolbar is dragged no narrower than 280 pixels: that is meant.
     if (Global_Config_MainForm_Width < 280)
         Global_Config_MainForm_Width = 280;
-    Assign_Account(defaults.AccountIsTaken);
+    Assign_Account(defaults);
 }
 
 void Save_Global_Settings(const LiveGeometry& geometry, const QString& programFolder) {

@@ -33,6 +33,8 @@ struct SettingsDefaults {
     std::int32_t TwipsPerPixelY = 15;
     // Whether an account number that seems to be free belongs to somebody else.
     std::function<bool(std::int32_t number)> AccountIsTaken = {};
+    // Whether the user's own number leads to a folder that is closed to the user.
+    std::function<bool(std::int32_t number)> AccountIsClosed = {};
 };
 
 // Where a window stands when the program ends, twips.

@@ -41,7 +41,7 @@ public:
         return bytes && (overwrite || !Exists(to)) && Replace(to, *bytes);
     }
     bool Make_Folder(const QString&) override { return true; }
-    QStringList Empty_Files(const QString&) override { return {}; }
+    std::optional<QStringList> Empty_Files(const QString&) override { return {}; }
 };
 
 class CoreTest : public testing::Test {

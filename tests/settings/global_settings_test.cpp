@@ -166,6 +166,21 @@ TEST_F(GlobalSettings, A_number_whose_folder_bears_only_another_users_marker_is_
     EXPECT_EQ(Global_MaxAccountID, 4);
     put("User-2/bob", ""); // both have been here: nobody is driven out
     EXPECT_FALSE(Account_Is_Taken(program.path(), 2));
+    // What nobody but its owner may read: the folder, and the counter.
+    files.refusedReads = {u"User-3"_s};
+    EXPECT_TRUE(Account_Is_Taken(program.path(), 3));
+    defaults.AccountIsClosed = [&](std::int32_t number) {
+        return Account_Is_Closed(program.path(), number);
+    };
+    put("User-4/links.dat", "LinksSaveFile");
+    registry.unreadable.insert(platform::RegistryRoot::LocalMachine);
+    registry.Create_Key(platform::RegistryRoot::CurrentUser, u"Software\\Tockly"_s);
+    registry.Write(platform::RegistryRoot::CurrentUser, u"Software\\Tockly"_s, u"Global_CurID"_s,
+                   {platform::RegistryType::DWord, {}, {}, 3});
+    Load_Global_Settings(defaults);
+    EXPECT_EQ(Global_CurID, 2) << "a number that leads nowhere is not kept";
+    EXPECT_TRUE(Account_Is_Taken(program.path(), 4));
+    EXPECT_FALSE(Account_Is_Taken(program.path(), 5));
 }
 
 } // namespace

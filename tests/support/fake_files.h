@@ -43,7 +43,9 @@ public:
     bool Make_Folder(const QString& path) override {
         return !Named(refusedWrites, path) && system->Make_Folder(path);
     }
-    QStringList Empty_Files(const QString& folder) override { return system->Empty_Files(folder); }
+    std::optional<QStringList> Empty_Files(const QString& folder) override {
+        return Named(refusedReads, folder) ? std::nullopt : system->Empty_Files(folder);
+    }
 
 private:
     static bool Named(const QStringList& parts, const QString& path) {

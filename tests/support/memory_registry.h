@@ -15,6 +15,7 @@ public:
     // Every change under this root fails from now on; reading goes on.
     void Refuse(Root root) { refused.insert(root); }
     void Allow(Root root) { refused.erase(root); }
+    std::set<Root> unreadable;
     int changes = 0; // that succeeded
 
     bool Create_Key(Root root, const QString& path) override {
@@ -43,6 +44,7 @@ public:
     std::vector<QString> Value_Names(Root root, const QString& path) override {
         return trees[root].Value_Names(path);
     }
+    bool Is_Readable(Root root) override { return !unreadable.contains(root); }
 
 private:
     template <class Step>

@@ -63,7 +63,11 @@ public:
         return !path.isEmpty() && QDir().mkpath(path);
     }
 
-    QStringList Empty_Files(const QString& folder) override {
+    std::optional<QStringList> Empty_Files(const QString& folder) override {
+        const QFileInfo info(folder);
+        if (!info.isDir() || !info.isReadable() || !info.isExecutable()) {
+            return std::nullopt;
+        }
         QStringList names;
         for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden))
             if (file.size() == 0)

@@ -82,6 +82,11 @@ public:
         return Tree(root).Value_Names(path);
     }
 
+    bool Is_Readable(RegistryRoot root) override {
+        RegistryFile* file = Kept(root);
+        return file == nullptr || file->Is_Readable();
+    }
+
 private:
     // The file of a root; nothing for the roots that only the other system has.
     RegistryFile* Kept(RegistryRoot root) {

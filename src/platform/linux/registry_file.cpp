@@ -48,6 +48,11 @@ const RegistryTree& RegistryFile::Tree() {
     return tree;
 }
 
+bool RegistryFile::Is_Readable() {
+    Tree();
+    return condition != Condition::Unreadable;
+}
+
 bool RegistryFile::Keep_Damaged() const {
     QString kept = path + u".damaged"_s;
     for (int number = 2; QFileInfo::exists(kept); ++number) {

@@ -15,6 +15,8 @@ public:
     // As the file stands now: read at first use, and again when somebody else has changed it.
     const RegistryTree& Tree();
 
+    bool Is_Readable();
+
     // Carries out a step on a copy and stores that. False, with nothing changed, when the step
     // says so or the file cannot be written.
     bool Change(const std::function<bool(RegistryTree&)>& step);
