@@ -120,6 +120,7 @@ void Application::End(platform::EndReason reason) {
         Set_Program_Ending(true);
         windowsGone = true;
         CloseProgram();
+        Global_PlayerClass.reset(); // its service goes before it
         return;
     }
     const bool first = Begin_Ending();
