@@ -37,7 +37,7 @@ public:
     }
     bool Copy(const QString&, const QString&, bool) override { return true; }
     bool Make_Folder(const QString&) override { return true; }
-    QStringList Empty_Files(const QString&) override { return {}; }
+    std::optional<QStringList> Empty_Files(const QString&) override { return {}; }
 
     std::string content;
 };
