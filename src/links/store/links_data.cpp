@@ -79,7 +79,7 @@ void Load_Global_LinksArray() {
                     static_cast<std::ptrdiff_t>(Link_Count(Global_DefaultLinkArray)));
     std::array<std::shared_ptr<LinksData>, Levels> stack;
     stack[0] = Global_LinksRoot = std::make_shared<LinksData>();
-    std::size_t deepest = 0; // of the levels that are there
+    std::size_t deepest = 0; // of the levels that there have been: a row may name one that was left
     std::int32_t serial = 0;
     for (const LinkRec& row : rows) {
         if (row.URL.front() != u'@') {
@@ -91,7 +91,7 @@ void Load_Global_LinksArray() {
         const std::size_t depth = Depth_Of(digit, std::min(deepest, Levels - 2));
         stack[depth + 1] = std::make_shared<LinksData>();
         stack[depth]->Add_Category(row.LinkName, serial++, stack[depth + 1]);
-        deepest = depth + 1;
+        deepest = std::max(deepest, depth + 1);
     }
     if (treeObserver)
         treeObserver();
