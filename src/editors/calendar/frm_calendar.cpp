@@ -1,5 +1,6 @@
 #include "editors/calendar/frm_calendar.h"
 
+#include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/program_end.h"
 #include "controls/wb_button.h"
@@ -44,11 +45,11 @@ frmCalendar::frmCalendar(QWidget* owner) : Form(owner) {
 }
 
 void frmCalendar::Build_Controls() {
-    Combo1 = new QComboBox(this);
+    Combo1 = new ComboBox(this);
     Combo1->setGeometry(Margin, Margin, MonthWidth, FieldHeight);
     Name_Combo(Combo1, u"Month"_s);
     Combo1->setMaxVisibleItems(12);
-    Combo2 = new QComboBox(this);
+    Combo2 = new ComboBox(this);
     Combo2->setGeometry(Margin + MonthWidth + 4, Margin, YearWidth, FieldHeight);
     Combo2->setEditable(true);
     Name_Combo(Combo2, u"Year"_s);
