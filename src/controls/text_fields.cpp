@@ -40,6 +40,11 @@ bool Is_Typed(const QKeyEvent& event) {
 
 } // namespace
 
+bool Leaves_Field(Qt::FocusReason reason) {
+    return reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&
+           reason != Qt::ActiveWindowFocusReason;
+}
+
 QString Too_Long_Word() {
     return u"This is too long. A text can have up to 65,535 characters, and fewer with letters of "
            u"other "

@@ -8,6 +8,10 @@
 
 class QLineEdit;
 
+// Whether a loss of the focus means that the user has done with the field: its own menu, and
+// another window, give it back.
+bool Leaves_Field(Qt::FocusReason reason);
+
 // What a field with a limit says.
 QString Too_Long_Word();
 

@@ -51,7 +51,7 @@ CardView* CardList::Add_Card() {
     cards.push_back(card);
     connect(card, &CardView::Click, this, [this, card] {
         setFocus(Qt::MouseFocusReason);
-        currentRow = card->Row;
+        Note_Current(card->Row);
         Mark_Current();
         Q_EMIT Card_Chosen(card->Reminder);
     });
@@ -85,7 +85,9 @@ void CardList::Set_Slots(std::vector<std::int32_t> newSlots) {
     const std::int64_t content = std::int64_t{CardPitch} * count;
     const std::int64_t hidden =
         std::clamp<std::int64_t>(content - height(), 0, std::numeric_limits<int>::max());
-    currentRow = std::min(currentRow, count - 1);
+    const int row = Row_Of(current);
+    currentRow = row == -1 ? std::min(currentRow, count - 1) : row;
+    current = Reminder_At(currentRow);
     {
         const QSignalBlocker still(VScroll2);
         VScroll2->setRange(0, static_cast<int>(hidden));
@@ -103,6 +105,15 @@ int CardList::Row_Of(const ReminderRef& reminder) const {
     return slot == -1 || found == slots.end() || *found != slot
                ? -1
                : static_cast<int>(found - slots.begin());
+}
+
+ReminderRef CardList::Reminder_At(int row) const {
+    return row == -1 ? ReminderRef() : ReminderRef::Of_Slot(slots[static_cast<std::size_t>(row)]);
+}
+
+void CardList::Note_Current(int row) {
+    currentRow = row;
+    current = Reminder_At(row);
 }
 
 CardContent CardList::Content_Of(std::int32_t slot) const {
@@ -130,6 +141,9 @@ void CardList::Show_Row(CardView& card, int row) {
     // Who was typing on the card must not go on in another reminder.
     if (card.Reminder != reminder && (card.Text12->hasFocus() || card.p1ChkImage->hasFocus()))
         setFocus();
+    // Nor must it be undone into one.
+    if (card.Reminder != reminder)
+        card.Text12->document()->clearUndoRedoStacks();
     card.Reminder = reminder;
     card.Row = row;
     // Somebody else may have taken reminders away since the rows were made.
@@ -198,7 +212,7 @@ void CardList::Set_Selected(const ReminderRef& reminder) {
         if (card != nullptr)
             Show_Row(*card, card->Row);
     if (const int row = Row_Of(selected); row != -1)
-        currentRow = row;
+        Note_Current(row);
     Mark_Current();
 }
 

@@ -37,9 +37,10 @@ public:
     // Null when the reminder has no card on view.
     CardView* Card_Of(const ReminderRef& reminder) const;
 
-    // The row that the keyboard stands on; it is brought into view.
+    // The row that the keyboard stands on, and that its keys concern; it is brought into view.
     void Set_CurrentRow(int row);
     int Current_Row() const { return currentRow; }
+    void Bring_IntoView(int row);
     int Card_Count() const { return static_cast<int>(cards.size()); }
     QScrollBar* VScroll2 = nullptr;
     QLabel* Label12 = nullptr;
@@ -51,8 +52,9 @@ Q_SIGNALS:
     // Typed into the selected card.
     void Text12_Change(const QString& text);
     void Enabled_Changed(const ReminderRef& reminder, bool ticked);
-    void Delete_Pressed();
-    void Copy_Pressed();
+    // On the reminder that the frame stands on.
+    void Delete_Pressed(const ReminderRef& reminder);
+    void Copy_Pressed(const ReminderRef& reminder);
     void Paste_Pressed();
 
 protected:
@@ -68,6 +70,8 @@ private:
     void Show_Row(CardView& card, int row);
     CardContent Content_Of(std::int32_t slot) const;
     int Row_ForKey(int key) const;
+    ReminderRef Reminder_At(int row) const;
+    void Note_Current(int row);
     void Mark_Current();
     int Visible_Rows() const;
 
@@ -78,4 +82,5 @@ private:
     std::optional<QString> selectedIcon;
     std::optional<Day> selectedNextRun;
     int currentRow = -1;
+    ReminderRef current; // of that row, also when the rows have changed
 };

@@ -21,16 +21,20 @@ void CardList::Mark_Current() {
 }
 
 void CardList::Set_CurrentRow(int row) {
-    currentRow = std::clamp(row, -1, static_cast<int>(slots.size()) - 1);
-    if (currentRow != -1) {
-        const auto top = static_cast<int>(std::int64_t{currentRow} * CardPitch);
-        const int least = top + CardPitch - height();
-        if (VScroll2->value() > top)
-            VScroll2->setValue(top);
-        else if (VScroll2->value() < least)
-            VScroll2->setValue(least);
-    }
+    Note_Current(std::clamp(row, -1, static_cast<int>(slots.size()) - 1));
+    Bring_IntoView(currentRow);
     Mark_Current();
+}
+
+void CardList::Bring_IntoView(int row) {
+    if (row < 0)
+        return;
+    const auto top = static_cast<int>(std::int64_t{row} * CardPitch);
+    const int least = top + CardPitch - height();
+    if (VScroll2->value() > top)
+        VScroll2->setValue(top);
+    else if (VScroll2->value() < least)
+        VScroll2->setValue(least);
 }
 
 // -1 for a key that moves nowhere.
@@ -63,14 +67,14 @@ void CardList::keyPressEvent(QKeyEvent* event) {
     else if (row != -1)
         Set_CurrentRow(row);
     else if (event->matches(QKeySequence::Copy))
-        Q_EMIT Copy_Pressed();
+        Q_EMIT Copy_Pressed(current);
     else if (event->matches(QKeySequence::Paste))
         Q_EMIT Paste_Pressed();
     else if (key == Qt::Key_Delete)
-        Q_EMIT Delete_Pressed();
+        Q_EMIT Delete_Pressed(current);
     else if (currentRow != -1 &&
              (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
-        Q_EMIT Card_Chosen(ReminderRef::Of_Slot(slots[static_cast<std::size_t>(currentRow)]));
+        Q_EMIT Card_Chosen(current);
     else
         QWidget::keyPressEvent(event);
 }
@@ -82,7 +86,7 @@ void CardList::wheelEvent(QWheelEvent* event) {
 
 void CardList::focusInEvent(QFocusEvent* event) {
     if (currentRow == -1 && !slots.empty())
-        currentRow = std::max(0, Row_Of(selected));
+        Note_Current(std::max(0, Row_Of(selected)));
     if (event->reason() == Qt::MouseFocusReason)
         Mark_Current();
     else

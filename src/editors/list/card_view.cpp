@@ -67,7 +67,7 @@ void Set_PIC_By_ImageName(const QString& imgName, IconImage& wImg, IconColors co
     wImg.Picture = Icon_Picture(wImg.Tag, colors, scale);
 }
 
-CardText::CardText(QWidget* parent) : QPlainTextEdit(parent) {
+CardText::CardText(QWidget* parent) : MemoField(parent) {
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -82,7 +82,7 @@ CardText::CardText(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 void CardText::mouseReleaseEvent(QMouseEvent* event) {
-    QPlainTextEdit::mouseReleaseEvent(event);
+    MemoField::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton)
         Q_EMIT Click();
 }

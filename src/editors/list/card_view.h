@@ -3,10 +3,10 @@
 #pragma once
 
 #include "controls/chk_box.h"
+#include "controls/text_fields.h"
 #include "editors/list/reminder_ref.h"
 
 #include <QPixmap>
-#include <QPlainTextEdit>
 
 // Pixels.
 constexpr int CardWidth = 293;
@@ -36,7 +36,7 @@ struct CardContent {
 };
 
 // The text on a card. The wheel moves the list.
-class CardText : public QPlainTextEdit {
+class CardText : public MemoField {
     Q_OBJECT
 public:
     explicit CardText(QWidget* parent);

@@ -1,6 +1,7 @@
 #include "editors/list/frm_reminder_edit.h"
 
 #include "accessories/help/help.h"
+#include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/cool_tab.h"
 #include "controls/icons.h"
@@ -18,7 +19,6 @@
 #include "editors/pages/hour_page.h"
 #include "platform/desktop.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QPainter>
 #include <QShortcut>
@@ -87,7 +87,7 @@ frmReminderEdit::~frmReminderEdit() = default;
 
 void frmReminderEdit::Build_List(int listHeight) {
     QLabel* label = Add_Label(u"Show Category:"_s, ListLeft + 2, 12);
-    Combo2 = new QComboBox(this);
+    Combo2 = new ComboBox(this);
     Combo2->setGeometry(ListLeft + 92, 8, 194, 22);
     Name_Combo(Combo2, u"Show Category"_s, label);
     new TooltipPicture(Tip_List, ListLeft + 292, 11, this);
@@ -105,8 +105,15 @@ void frmReminderEdit::Build_List(int listHeight) {
             [](CardText* box) { MessagePage::Select_SampleText(box); });
     connect(Cards, &CardList::Text12_Change, this, &frmReminderEdit::Card_Text_Changed);
     connect(Cards, &CardList::Enabled_Changed, this, &frmReminderEdit::Row_Enabled_Changed);
-    connect(Cards, &CardList::Delete_Pressed, this, &frmReminderEdit::Delete_Click);
-    connect(Cards, &CardList::Copy_Pressed, this, &frmReminderEdit::Copy_Click);
+    // A key acts on the card that wears the frame: it is selected first.
+    connect(Cards, &CardList::Delete_Pressed, this, [this](const ReminderRef& reminder) {
+        if (Is_SelectedNow(reminder))
+            Delete_Click();
+    });
+    connect(Cards, &CardList::Copy_Pressed, this, [this](const ReminderRef& reminder) {
+        if (Is_SelectedNow(reminder))
+            Copy_Click();
+    });
     connect(Cards, &CardList::Paste_Pressed, this, &frmReminderEdit::Paste_Click);
 }
 

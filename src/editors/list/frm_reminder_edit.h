@@ -17,12 +17,12 @@
 
 class CardList;
 class CardText;
+class ComboBox;
 class CoolTab;
 class DatePage;
 class frmRE_FunctionEdit;
 class HourPage;
 class MiscPage;
-class QComboBox;
 class SoundPage;
 class wbButton;
 
@@ -56,13 +56,16 @@ public:
     void Restart_HideErrorShapeTimer() override;
     bool Save_View_To_Reminder(CategoryOnSave category) override;
     void Show_NextRun(Day nextRun) override;
+    void Condition_Added(const HourSetup& condition) override {
+        refused.Condition_Added(condition);
+    }
 
     // Row of the selected card; -1 = none, or its card is filtered away.
     int SelectedRow() const;
     EditPage CurrentPage = EditPage::DateSetup;
 
     CardList* Cards = nullptr;
-    QComboBox* Combo2 = nullptr; // the filter
+    ComboBox* Combo2 = nullptr; // the filter
     CoolTab* CoolTab1 = nullptr;
     DatePage* Picture2 = nullptr;
     HourPage* Picture3 = nullptr;
@@ -94,6 +97,10 @@ private:
 
     // Selection.
     void Select_Reminder(const ReminderRef& target);
+    // Selects it if it is not; false: the selection stays with another, or none.
+    bool Is_SelectedNow(const ReminderRef& target);
+    // A new card comes into view; the frame goes to it only where nothing is selected.
+    void Show_NewCard(std::int32_t slot);
     void Drop_Selection();
     void Hide_Popups();
     void Hide_All_Pages();

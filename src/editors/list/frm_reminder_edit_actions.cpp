@@ -21,7 +21,7 @@ void frmReminderEdit::New_Click() {
     Save_Selected_Icon();
     const std::int32_t slot = Add_New_Reminder(Category_OfNew(filter));
     UpdateReminderView();
-    Cards->Set_CurrentRow(Cards->Row_Of(ReminderRef::Of_Slot(slot)));
+    Show_NewCard(slot);
 }
 
 void frmReminderEdit::Delete_Click() {
@@ -32,7 +32,7 @@ void frmReminderEdit::Delete_Click() {
     }
     const ReminderRef doomed = selection;
     const platform::Answer answer = platform::Dialogs::Get().Question(
-        u"Delete: "_s + reminder->rs_Title + u" ?"_s, false, {.Title = u"Confirm"_s});
+        Delete_Question(*reminder, Read_Moment()), false, {.Title = u"Confirm"_s});
     if (answer != platform::Answer::Yes || Program_Is_Ending())
         return;
     Delete_ReminderSlot(doomed.Slot());
@@ -71,7 +71,7 @@ void frmReminderEdit::Paste_Click() {
     const std::int32_t slot = Take_FreeReminderSlot();
     Global_Reminders[static_cast<std::size_t>(slot)] = {true, false, std::move(pasted)};
     UpdateReminderView();
-    Cards->Set_CurrentRow(Cards->Row_Of(ReminderRef::Of_Slot(slot)));
+    Show_NewCard(slot);
 }
 
 void frmReminderEdit::Test_Click() {

@@ -1,4 +1,5 @@
 // Categories and icons of the list window.
+#include "controls/combo_box.h"
 #include "controls/program_end.h"
 #include "core/categories.h"
 #include "editors/list/card_list.h"
@@ -6,8 +7,6 @@
 #include "editors/list/list_rules.h"
 #include "editors/list/misc_page.h"
 #include "platform/dialogs.h"
-
-#include <QComboBox>
 
 using namespace Qt::StringLiterals;
 
@@ -43,9 +42,8 @@ void frmReminderEdit::Update_Category_Combos(FilterText text) {
         filter = Combo2->currentText();
 }
 
+// Also a choice of the filter that is chosen already saves and drops the selection.
 void frmReminderEdit::Combo2_Click() {
-    if (Combo2->currentText() == filter)
-        return;
     if (!Save_View_To_Reminder(CategoryOnSave::Take)) {
         Combo2->setCurrentIndex(std::max(0, Combo2->findText(filter, Qt::MatchFixedString)));
         return;

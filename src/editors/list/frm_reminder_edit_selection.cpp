@@ -11,7 +11,6 @@
 #include "editors/pages/hour_page.h"
 #include "platform/dialogs.h"
 
-#include <QComboBox>
 #include <QEvent>
 
 QWidget* frmReminderEdit::Page_Widget(int page) const {
@@ -76,6 +75,22 @@ void frmReminderEdit::Select_Reminder(const ReminderRef& target) {
         Set_CurrentPage(static_cast<int>(CurrentPage));
     else
         Refresh_View();
+}
+
+bool frmReminderEdit::Is_SelectedNow(const ReminderRef& target) {
+    const ReminderRef wanted = target;
+    if (!wanted.Is_Set())
+        return false;
+    Select_Reminder(wanted);
+    return selection == wanted && Selected_Reminder() != nullptr && !Program_Is_Ending();
+}
+
+void frmReminderEdit::Show_NewCard(std::int32_t slot) {
+    const int row = Cards->Row_Of(ReminderRef::Of_Slot(slot));
+    if (selection.Is_Set())
+        Cards->Bring_IntoView(row);
+    else
+        Cards->Set_CurrentRow(row);
 }
 
 void frmReminderEdit::Drop_Selection() {

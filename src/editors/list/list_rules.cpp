@@ -15,6 +15,8 @@ const QString NoCategoryText = u"--"_s;
 
 namespace {
 
+constexpr qsizetype QuotedText = 60;
+
 const ReminderClass& Reminder_At(std::int32_t slot) {
     return Global_Reminders[static_cast<std::size_t>(slot)].Reminder.Peek();
 }
@@ -90,6 +92,15 @@ QString NextRun_Caption(Day nextRun) {
 Day NextRun_ForDisplay(const ReminderClass& reminder, const Moment& now) {
     ReminderClass copy = reminder;
     return copy.GetNext_RunDate(now);
+}
+
+QString Delete_Question(const ReminderClass& reminder, const Moment& now) {
+    QString text = reminder.rs_Text.simplified();
+    if (text.size() > QuotedText)
+        text = text.left(QuotedText) + u"..."_s;
+    const Day nextRun = NextRun_ForDisplay(reminder, now);
+    return u"Delete: %1 ?\r\n\r\n\"%2\"\r\nNext run: %3"_s.arg(
+        reminder.rs_Title, text, nextRun == NoDay ? u"--"_s : DayToFriendlyString(nextRun));
 }
 
 QString Category_OfNew(const QString& filter) {

@@ -26,6 +26,9 @@ QString NextRun_Caption(Day nextRun);
 // Asks a copy, so that looking at a reminder leaves its cycle unstarted.
 Day NextRun_ForDisplay(const ReminderClass& reminder, const Moment& now);
 
+// Names the title, and what tells the reminder from others of that title: a new one is "Reminder".
+QString Delete_Question(const ReminderClass& reminder, const Moment& now);
+
 // The category that a reminder made, or pasted, under a filter gets.
 QString Category_OfNew(const QString& filter);
 QString Category_OfPasted(const QString& filter);

@@ -10,6 +10,7 @@
 
 #include <QButtonGroup>
 #include <QEvent>
+#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -59,7 +60,7 @@ void MessagePage::Build_Text() {
     Text9->setMaxLength(std::numeric_limits<int>::max());
     Text9->setAccessibleName(u"Title"_s);
     Add_Text(u"Text:"_s, 8, 38, this);
-    Text8 = new QPlainTextEdit(this);
+    Text8 = new MemoField(this);
     Text8->setGeometry(FieldLeft, 36, FieldWidth, 80);
     Text8->setTabChangesFocus(true);
     Text8->setAccessibleName(u"Text"_s);
@@ -144,7 +145,10 @@ void MessagePage::Load_View(const ReminderClass& reminder) {
     Text9->setText(reminder.rs_Title);
     Text9->setCursorPosition(0);
     shownTitle = Text9->text();
-    Set_Text(Text_ForBox(reminder.rs_Text));
+    // Also a text that stands there already: it can be undone no further.
+    showing = true;
+    Text8->setPlainText(Text_ForBox(reminder.rs_Text));
+    showing = false;
     UpdateFunctions(reminder, TitlesOfFunctions::Update);
     const int mode = static_cast<int>(reminder.rs_Reminder_Type);
     modes->setExclusive(false);
@@ -155,9 +159,10 @@ void MessagePage::Load_View(const ReminderClass& reminder) {
     p6ChkImage[MinimizeBox]->Set_Ticked(mode > 1 && reminder.rs_Minimize_Apps);
 }
 
-void MessagePage::Save_View(ReminderClass& reminder) const {
+void MessagePage::Save_View(ReminderClass& reminder) {
     if (Text9->text() != shownTitle)
         reminder.rs_Title = Text9->text();
+    shownTitle = Text9->text();
     reminder.rs_Text = Text_ForRecord(Plain_Text(*Text8), reminder.rs_Text);
     reminder.rs_Reminder_Type = static_cast<ReminderType>(std::max(0, modes->checkedId()));
     reminder.rs_Minimize_Apps = p6ChkImage[MinimizeBox]->Is_Ticked();
@@ -166,6 +171,7 @@ void MessagePage::Save_View(ReminderClass& reminder) const {
         entry.Enabled = p6ChkImage[At(k)]->Is_Ticked();
         if (Text10[At(k)]->text() != shownCaptions[At(k)])
             entry.Title = Text10[At(k)]->text();
+        shownCaptions[At(k)] = Text10[At(k)]->text();
         reminder.SetFuncion(k, entry);
     }
 }
@@ -203,7 +209,10 @@ void MessagePage::Select_SampleText(QPlainTextEdit* box) {
         box->selectAll();
 }
 
-void MessagePage::Text9_LostFocus() {
+// The field's own menu and another window take the focus from a title that is still being typed.
+void MessagePage::Text9_LostFocus(Qt::FocusReason reason) {
+    if (!Leaves_Field(reason))
+        return;
     const QString title = Text9->text();
     if (title != "Reminder"_L1 && Plain_Text(*Text8) == "Insert text here"_L1)
         Text8->setPlainText(title);
@@ -211,7 +220,7 @@ void MessagePage::Text9_LostFocus() {
 
 bool MessagePage::eventFilter(QObject* watched, QEvent* event) {
     if (watched == Text9 && event->type() == QEvent::FocusOut)
-        Text9_LostFocus();
+        Text9_LostFocus(static_cast<QFocusEvent*>(event)->reason());
     if (watched == Text8->viewport() && event->type() == QEvent::MouseButtonRelease)
         Select_SampleText(Text8);
     return QWidget::eventFilter(watched, event);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/chk_box.h"
+#include "controls/text_fields.h"
 #include "core/reminder.h"
 #include "editors/list/click_label.h"
 
@@ -11,7 +12,6 @@
 
 class QButtonGroup;
 class QLineEdit;
-class QPlainTextEdit;
 class QRadioButton;
 class wbButton;
 
@@ -25,7 +25,7 @@ public:
     // The examples that a reminder without these settings shows.
     void Clear_View();
     void Load_View(const ReminderClass& reminder);
-    void Save_View(ReminderClass& reminder) const;
+    void Save_View(ReminderClass& reminder);
     // The four functions; Keep leaves the titles that are being typed.
     void UpdateFunctions(const ReminderClass& wOBJ, TitlesOfFunctions titles);
     // Without telling.
@@ -36,7 +36,7 @@ public:
     static constexpr int DisplayModes = 3;
     static constexpr int MinimizeBox = 4;
     QLineEdit* Text9 = nullptr;
-    QPlainTextEdit* Text8 = nullptr;
+    MemoField* Text8 = nullptr;
     std::array<QRadioButton*, DisplayModes> Option2{};
     std::array<ChkBox*, MinimizeBox + 1> p6ChkImage{};
     std::array<QLineEdit*, ReminderClass::FunctionCount> Text10{};
@@ -58,10 +58,11 @@ private:
     void Build_Function(int k);
     void Option2_Click(int i);
     void Set_FunctionText(int k, const QString& text);
-    void Text9_LostFocus();
+    void Text9_LostFocus(Qt::FocusReason reason);
 
     QButtonGroup* modes = nullptr;
-    QString shownTitle; // as the box shows the record's
+    // As the boxes show the record's, which may hold what no box can show.
+    QString shownTitle;
     std::array<QString, ReminderClass::FunctionCount> shownCaptions;
     bool showing = false; // by the program: not an edit
 };

@@ -1,12 +1,13 @@
 #include "editors/list/misc_page.h"
 
+#include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "editors/list/page_labels.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -21,11 +22,12 @@ constexpr int NoteWidth = 364;
 MiscPage::MiscPage(QWidget* parent) : QWidget(parent) {
     setFont(Small_Font());
     QLabel* label = Add_Heading(u"Category:"_s, 8, 12, this);
-    Combo1 = new QComboBox(this);
+    Combo1 = new ComboBox(this);
     Combo1->setEditable(true);
     // Names are taken as they are typed.
     Combo1->setCompleter(nullptr);
     Combo1->setInsertPolicy(QComboBox::NoInsert);
+    Limit_ToStoredText(Combo1->lineEdit());
     Combo1->setGeometry(TextLeft, 8, 220, 22);
     Name_Combo(Combo1, u"Category"_s, label);
     auto* wbButton11 = new wbButton(this);

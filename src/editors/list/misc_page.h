@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QWidget>
 
-class QComboBox;
+class ComboBox;
 
 class MiscPage : public QWidget {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     // Tells nobody.
     void Set_CategoryText(const QString& text);
 
-    QComboBox* Combo1 = nullptr;
+    ComboBox* Combo1 = nullptr;
     IconPalette* IconSelIMG = nullptr;
 
 Q_SIGNALS:

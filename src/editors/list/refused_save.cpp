@@ -51,6 +51,11 @@ void RefusedSave::Save_Done() {
     *this = {};
 }
 
+void RefusedSave::Condition_Added(const HourSetup& condition) {
+    if (before)
+        before->AddNewHourSetup(condition);
+}
+
 void RefusedSave::Restore(const ReminderRef& target) {
     ReminderClass* record = target.Get();
     if (!isRefused || !before || record == nullptr || !(target == reminder))

@@ -15,6 +15,8 @@ public:
     void Save_Begins(const ReminderRef& target);
     void Save_Refused(RefusedPart part);
     void Save_Done();
+    // A condition that the record has got besides.
+    void Condition_Added(const HourSetup& condition);
     // Gives the record its date back, and its hours if a save has touched them. Nothing without a
     // refused save of this record.
     void Restore(const ReminderRef& target);

@@ -63,12 +63,13 @@ void SoundPage::Load_View(const ReminderClass& reminder) {
     shownPath = Text11->text();
 }
 
-void SoundPage::Save_View(ReminderClass& reminder) const {
+void SoundPage::Save_View(ReminderClass& reminder) {
     reminder.rs_PlaySound = p7ChkImage[PlayBox]->Is_Ticked();
     if (p7ChkImage[BeepBox]->Is_Ticked())
         reminder.rs_SoundPath.clear();
     else if (reminder.rs_SoundPath.isEmpty() || Text11->text() != shownPath)
         reminder.rs_SoundPath = Text11->text();
+    shownPath = Text11->text();
 }
 
 void SoundPage::Sound_Option_Checked(int k) {

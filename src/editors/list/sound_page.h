@@ -19,7 +19,7 @@ public:
 
     void Clear_View();
     void Load_View(const ReminderClass& reminder);
-    void Save_View(ReminderClass& reminder) const;
+    void Save_View(ReminderClass& reminder);
     // Releases the player.
     void Stop_Sound() { player.reset(); }
 
@@ -33,5 +33,5 @@ private:
     void wbButton4_Click(); // play
 
     std::unique_ptr<MCIClass> player;
-    QString shownPath;
+    QString shownPath; // as the box shows the record's
 };

@@ -125,20 +125,27 @@ void DatePage::Text4_SetDate_FromCalendar(int Index, const QString& NewDate) {
 void DatePage::Clear_View() {
     view->ErrLabel->hide();
     view->Show_State(Cleared_DatePage(Read_Moment()));
+    view->Stored = {};
 }
 
 // The page is complete before the box: the record may be gone after it.
 void DatePage::Load_View(const ReminderClass& reminder) {
     view->ErrLabel->hide();
-    view->Show_State(Load_DateSetup(reminder, Read_Moment()));
+    const DatePageState state = Load_DateSetup(reminder, Read_Moment());
+    view->Show_State(state);
+    view->Stored = Stored_Date(state, reminder);
+    view->Forget_Undo();
     if (const QString warning = DateSetup_Warning(reminder); !warning.isEmpty())
         platform::Dialogs::Get().Message(warning, platform::BoxStyle::Exclamation);
 }
 
 bool DatePage::Save_DateSetup_To_Reminder(ReminderClass& reminder, ShowErrors show) {
-    const auto fault = Save_DateSetup(view->Read_State(), reminder, Read_Moment());
-    if (!fault)
+    const DatePageState state = view->Read_State();
+    const auto fault = Save_DateSetup(state, view->Stored, reminder, Read_Moment());
+    if (!fault) {
+        view->Stored = Stored_Date(state, reminder);
         return true;
+    }
     if (show == ShowErrors::No)
         return false;
     const QPointer<DatePage> alive(this);
@@ -153,8 +160,8 @@ void DatePage::Show_Error_Shape(int mark) {
     Shape* shape = view->ErrorShapes[static_cast<std::size_t>(mark)];
     shape->show();
     shape->raise();
-    if (QLineEdit* field = view->Field_Of(static_cast<ErrorMark>(mark)))
-        field->setFocus();
+    if (QWidget* control = view->Control_Of(static_cast<ErrorMark>(mark)))
+        control->setFocus();
     view->host.Restart_HideErrorShapeTimer();
 }
 
@@ -184,7 +191,7 @@ void DatePage::Update_NextRun_Labels() {
     temporary.rs_FirstRunDate = reminder->rs_FirstRunDate;
     temporary.rs_wDaysArray_LMonth = reminder->rs_wDaysArray_LMonth;
     temporary.rs_wDaysArray_LWeek = reminder->rs_wDaysArray_LWeek;
-    if (Save_DateSetup(view->Read_State(), temporary, now))
+    if (Save_DateSetup(view->Read_State(), view->Stored, temporary, now))
         return;
     const Day nextRun = temporary.GetNext_RunDate(now);
     Show_NextRun_Texts(temporary.rs_DateType_Used,

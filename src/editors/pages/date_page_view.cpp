@@ -4,6 +4,8 @@
 #include "controls/metrics.h"
 #include "controls/tooltip_picture.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace date_box;
 
@@ -211,7 +213,13 @@ void DatePage::View::Build_Marks() {
         ErrorShapes[mark] = Make_ErrorShape(places[mark], &page);
 }
 
-QLineEdit* DatePage::View::Field_Of(ErrorMark mark) const {
+QWidget* DatePage::View::Control_Of(ErrorMark mark) const {
+    const auto First_Weekday = [this](int monday) -> QWidget* {
+        const auto first = p2Chk.begin() + monday;
+        const auto ticked =
+            std::find_if(first, first + 7, [](const ChkBox* box) { return box->Is_Ticked(); });
+        return ticked == first + 7 ? *first : *ticked;
+    };
     switch (mark) {
     case ErrorMark::Weeks:
         return Text1;
@@ -221,13 +229,23 @@ QLineEdit* DatePage::View::Field_Of(ErrorMark mark) const {
         return Text4[ExactField];
     case ErrorMark::StartField:
         return Text4[StartField];
+    case ErrorMark::ExactWeekdays:
+        return First_Weekday(ExactMonday);
+    case ErrorMark::StartWeekdays:
+        return First_Weekday(StartMonday);
     default:
         return nullptr;
     }
 }
 
+void DatePage::View::Forget_Undo() {
+    for (QLineEdit* field : {Text1, Text2, Text3, Text4[ExactField], Text4[StartField]})
+        field->setText(field->text());
+}
+
 DatePageState DatePage::View::Read_State() const {
     DatePageState state;
+    state.TickedOn = TickedOn;
     for (std::size_t box = 0; box < p2Chk.size(); ++box) {
         state.Ticks[box] = p2Chk[box]->Is_Ticked();
         state.Blocked[box] = p2Chk[box]->Is_Blocked();
@@ -243,6 +261,7 @@ DatePageState DatePage::View::Read_State() const {
 }
 
 void DatePage::View::Show_State(const DatePageState& state) {
+    TickedOn = state.TickedOn;
     for (std::size_t box = 0; box < p2Chk.size(); ++box) {
         p2Chk[box]->Set_Blocked(state.Blocked[box]);
         p2Chk[box]->Set_Ticked(state.Ticks[box]);

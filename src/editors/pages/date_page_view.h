@@ -19,11 +19,16 @@ struct DatePage::View {
 
     DatePageState Read_State() const;
     void Show_State(const DatePageState& state);
-    QLineEdit* Field_Of(ErrorMark mark) const;
+    // What is to be mended first.
+    QWidget* Control_Of(ErrorMark mark) const;
+    // What was typed for another reminder cannot be undone into this one.
+    void Forget_Undo();
 
     DatePage& page;
     EditHost& host;
     bool LoadingView = false;
+    StoredDate Stored;
+    std::array<Day, 2> TickedOn{};
     int TargetIndex = ExactField; // of the calendar
 
     std::array<ChkBox*, date_box::Count> p2Chk{};

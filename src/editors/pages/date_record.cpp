@@ -48,12 +48,20 @@ std::array<std::uint8_t, 8> Ticked_Weekdays(const DatePageState& state) {
     return days;
 }
 
-std::optional<DateFault> Save_Weekdays(const DatePageState& state, ReminderClass& reminder) {
+bool Stands(const QString& text, const QString& stored) {
+    return !stored.isEmpty() && text == stored;
+}
+
+std::optional<DateFault> Save_Weekdays(const DatePageState& state, const StoredDate& stored,
+                                       ReminderClass& reminder) {
     reminder.Set_Rs_Rdays(Ticked_Weekdays(state));
     reminder.rs_DateType_Used = DateType::Weekdays;
     if (!state.Tick(Weeks))
         return std::nullopt;
-    reminder.rs_ReWeeks = static_cast<std::int16_t>(Number_UpTo(state.Text1, LargestInterval));
+    reminder.rs_ReWeeks =
+        Stands(state.Text1, stored.Text1)
+            ? stored.ReWeeks
+            : static_cast<std::int16_t>(Number_UpTo(state.Text1, LargestInterval));
     if (reminder.rs_ReWeeks == 0)
         return DateFault{u"Invalid Every X weeks value"_s, ErrorMark::Weeks};
     return std::nullopt;
@@ -64,8 +72,10 @@ DateFault Invalid_Days() {
     return {u"Invalid Every X days value"_s, ErrorMark::Days};
 }
 
-std::optional<DateFault> Save_EveryXDays(const DatePageState& state, ReminderClass& reminder) {
-    const int days = Number_UpTo(state.Text3, LargestInterval);
+std::optional<DateFault> Save_EveryXDays(const DatePageState& state, const StoredDate& stored,
+                                         ReminderClass& reminder) {
+    const int days = Stands(state.Text3, stored.Text3) ? stored.ReDays
+                                                       : Number_UpTo(state.Text3, LargestInterval);
     if (days == 0)
         return Invalid_Days();
     reminder.rs_ReDays = static_cast<std::int16_t>(days);
@@ -73,8 +83,11 @@ std::optional<DateFault> Save_EveryXDays(const DatePageState& state, ReminderCla
     return std::nullopt;
 }
 
-std::optional<DateFault> Save_DayOfMonth(const DatePageState& state, ReminderClass& reminder) {
-    const int day = Number_UpTo(DigitsOnly(state.Text2), LargestDayOfMonth);
+std::optional<DateFault> Save_DayOfMonth(const DatePageState& state, const StoredDate& stored,
+                                         ReminderClass& reminder) {
+    const int day = Stands(state.Text2, stored.Text2)
+                        ? stored.DayOfMonth
+                        : Number_UpTo(DigitsOnly(state.Text2), LargestDayOfMonth);
     if (day == 0)
         return Invalid_Days();
     reminder.rs_REDayOfMonth = day;
@@ -90,11 +103,26 @@ void Set_ExactDate(ReminderClass& reminder, Day day, const CalendarDate& date) {
     reminder.rs_DateType_Used = DateType::ExactDate;
 }
 
+// A yearly date's Day is that of the present year, where there is one.
+void Save_StoredDate(const StoredDate& stored, ReminderClass& reminder, const Moment& now) {
+    reminder.rs_SRDay = stored.SRDay;
+    reminder.rs_SRMonth = stored.SRMonth;
+    reminder.rs_SRYear = stored.SRYear;
+    const Day thisYear =
+        stored.SRYear == 0 ? DateToDay(stored.SRDay, stored.SRMonth, now.Year) : NoDay;
+    reminder.rs_SRLongday = thisYear == NoDay ? stored.SRLongday : thisYear;
+    reminder.rs_DateType_Used = DateType::ExactDate;
+}
+
 // A text without a year is the same date every year, whether "Every year" is ticked or not.
-std::optional<DateFault> Save_TypedDate(const DatePageState& state, ReminderClass& reminder,
-                                        const Moment& now) {
+std::optional<DateFault> Save_TypedDate(const DatePageState& state, const StoredDate& stored,
+                                        ReminderClass& reminder, const Moment& now) {
     CalendarDate date;
     const QString& text = state.Text4[ExactField];
+    if (Stands(text, stored.Text4[ExactField])) {
+        Save_StoredDate(stored, reminder, now);
+        return std::nullopt;
+    }
     const bool read = ParseUserDate(text, date.day, date.month, date.year, {}, true) == 0;
     const std::int32_t year = date.year == 0 ? now.Year : date.year;
     const Day day = read ? DateToDay(date.day, date.month, year) : NoDay;
@@ -104,15 +132,11 @@ std::optional<DateFault> Save_TypedDate(const DatePageState& state, ReminderClas
     return std::nullopt;
 }
 
-std::optional<DateFault> Save_ExactDate(const DatePageState& state, int box,
-                                        ReminderClass& reminder, const Moment& now) {
+std::optional<DateFault> Save_ExactDate(const DatePageState& state, const StoredDate& stored,
+                                        int box, ReminderClass& reminder, const Moment& now) {
     if (box == OnDate)
-        return Save_TypedDate(state, reminder, now);
-    Day day = now.Today;
-    if (box == Tomorrow)
-        ++day;
-    else if (box >= ExactMonday)
-        day = Weekday_Day(now, state.Option1[ExactNext], box - ExactMonday + 1);
+        return Save_TypedDate(state, stored, reminder, now);
+    const Day day = Exact_Day(state, box, now);
     if (day == NoDay)
         return DateFault{u"Selected (Days setup->Exact date) day is invalid"_s,
                          ErrorMark::ExactWeekdays};
@@ -120,17 +144,17 @@ std::optional<DateFault> Save_ExactDate(const DatePageState& state, int box,
     return std::nullopt;
 }
 
-std::optional<DateFault> Save_DateRule(const DatePageState& state, ReminderClass& reminder,
-                                       const Moment& now) {
+std::optional<DateFault> Save_DateRule(const DatePageState& state, const StoredDate& stored,
+                                       ReminderClass& reminder, const Moment& now) {
     if (!state.Tick(EveryDay)) {
         if (Ticked_Weekdays(state) != std::array<std::uint8_t, 8>{})
-            return Save_Weekdays(state, reminder);
+            return Save_Weekdays(state, stored, reminder);
         if (state.Tick(EveryXDays))
-            return Save_EveryXDays(state, reminder);
+            return Save_EveryXDays(state, stored, reminder);
         if (state.Tick(date_box::DayOfMonth))
-            return Save_DayOfMonth(state, reminder);
+            return Save_DayOfMonth(state, stored, reminder);
         if (const std::optional<int> box = Exact_Tick(state))
-            return Save_ExactDate(state, *box, reminder, now);
+            return Save_ExactDate(state, stored, *box, reminder, now);
     }
     // Nothing ticked, or Sunday alone, is every day as well.
     Save_EveryDay(reminder);
@@ -154,24 +178,26 @@ void Start_Cycles(const DatePageState& state, ReminderClass& reminder, Day befor
 
 } // namespace
 
-Day Get_Start_Date(const DatePageState& state, const Moment& now, DateFault& fault) {
+Day Get_Start_Date(const DatePageState& state, const StoredDate& stored, const Moment& now,
+                   DateFault& fault) {
     if (state.Tick(AlwaysActive))
         return 0;
     Day start = 0;
     if (state.Tick(StartTomorrow))
-        start = now.Today + 1;
+        start = Start_Day(state, StartTomorrow, now);
     if (state.Tick(StartOn)) {
-        start = ParseUserDateToDay(state.Text4[StartField], {});
+        const QString& text = state.Text4[StartField];
+        start = Stands(text, stored.Text4[StartField]) ? stored.ActivationDay
+                                                       : ParseUserDateToDay(text, {});
         if (start == NoDay) {
-            fault = {u"Invalid (Days setup) start date: \r\n"_s + state.Text4[StartField],
-                     ErrorMark::StartField};
+            fault = {u"Invalid (Days setup) start date: \r\n"_s + text, ErrorMark::StartField};
             return StartDate_Failed;
         }
     }
     for (int box = StartMonday; box <= StartSunday; ++box) {
         if (!state.Tick(box))
             continue;
-        start = Weekday_Day(now, state.Option1[StartNext], box - StartMonday + 1);
+        start = Start_Day(state, box, now);
         if (start == NoDay) {
             fault = {u"Selected (days setup) start day is invalid"_s, ErrorMark::StartWeekdays};
             return StartDate_Failed;
@@ -180,14 +206,37 @@ Day Get_Start_Date(const DatePageState& state, const Moment& now, DateFault& fau
     return start;
 }
 
-std::optional<DateFault> Save_DateSetup(const DatePageState& state, ReminderClass& reminder,
-                                        const Moment& now) {
+StoredDate Stored_Date(const DatePageState& state, const ReminderClass& reminder) {
+    StoredDate stored;
+    stored.ReWeeks = reminder.rs_ReWeeks;
+    stored.ReDays = reminder.rs_ReDays;
+    stored.DayOfMonth = reminder.rs_REDayOfMonth;
+    stored.SRDay = reminder.rs_SRDay;
+    stored.SRMonth = reminder.rs_SRMonth;
+    stored.SRYear = reminder.rs_SRYear;
+    stored.SRLongday = reminder.rs_SRLongday;
+    stored.ActivationDay = reminder.rs_ActivationDay;
+    if (stored.ReWeeks != 0)
+        stored.Text1 = state.Text1;
+    if (stored.DayOfMonth != 0)
+        stored.Text2 = state.Text2;
+    if (stored.ReDays != 0)
+        stored.Text3 = state.Text3;
+    if (stored.SRLongday != 0 && state.Tick(OnDate))
+        stored.Text4[ExactField] = state.Text4[ExactField];
+    if (stored.ActivationDay != 0 && state.Tick(StartOn))
+        stored.Text4[StartField] = state.Text4[StartField];
+    return stored;
+}
+
+std::optional<DateFault> Save_DateSetup(const DatePageState& state, const StoredDate& stored,
+                                        ReminderClass& reminder, const Moment& now) {
     const Day before = reminder.rs_ActivationDay;
     Clear_DateSetup(reminder);
-    if (auto fault = Save_DateRule(state, reminder, now))
+    if (auto fault = Save_DateRule(state, stored, reminder, now))
         return fault;
     DateFault fault;
-    const Day start = Get_Start_Date(state, now, fault);
+    const Day start = Get_Start_Date(state, stored, now, fault);
     if (start == StartDate_Failed)
         return fault;
     reminder.rs_ActivationDay = start;

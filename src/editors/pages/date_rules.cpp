@@ -12,6 +12,18 @@ void Clear_Boxes(DatePageState& state, int first, int last) {
     std::fill(state.Ticks.begin() + first, state.Ticks.begin() + last + 1, false);
 }
 
+Day Ticked_On(const DatePageState& state, DateField field, const Moment& now) {
+    return state.TickedOn[field] == 0 ? now.Today : state.TickedOn[field];
+}
+
+// weekday: 0 = Monday, of the week of "ticked" or the one after.
+Day Weekday_Day(const Moment& now, Day ticked, bool nextWeek, int weekday) {
+    const int present = ((now.Weekday + ticked - now.Today) % 7 + 7) % 7;
+    if (!nextWeek && present > weekday)
+        return NoDay;
+    return ticked + weekday + (nextWeek ? 7 : 0) - present;
+}
+
 // Radio behaviour by hand: everything in the range but one goes.
 void Clear_Others(DatePageState& state, int first, int last, int kept) {
     const bool was = state.Tick(kept);
@@ -27,21 +39,23 @@ void Choose_Week_If_None(DatePageState& state, WeekOption thisWeek) {
         state.Option1[at] = true;
 }
 
-void Exact_Checked(DatePageState& state, int box) {
+void Exact_Checked(DatePageState& state, int box, const Moment& now) {
     const bool everyYear = state.Tick(EveryYear);
     Clear_Others(state, EveryDay, StartSunday, box);
     state.Tick(EveryYear) = everyYear;
+    state.TickedOn[ExactField] = now.Today;
     // An exact date has no start date.
     state.Tick(AlwaysActive) = true;
     if (box >= ExactMonday)
         Choose_Week_If_None(state, ExactThis);
 }
 
-TickOutcome Start_Checked(DatePageState& state, int box) {
+TickOutcome Start_Checked(DatePageState& state, int box, const Moment& now) {
     if (box != AlwaysActive && Exact_Tick(state)) {
         state.Tick(box) = false;
         return TickOutcome::StartDateRefused;
     }
+    state.TickedOn[StartField] = now.Today;
     Clear_Others(state, AlwaysActive, StartSunday, box);
     if (box >= StartMonday)
         Choose_Week_If_None(state, StartThis);
@@ -69,11 +83,7 @@ std::optional<CalendarDate> Exact_Date(const DatePageState& state, MakeEveryYear
         return Typed_Date(state, now);
     if (make == MakeEveryYear::No)
         return std::nullopt;
-    Day day = now.Today;
-    if (*box == Tomorrow)
-        ++day;
-    else if (*box >= ExactMonday)
-        day = Weekday_Day(now, state.Option1[ExactNext], *box - ExactMonday + 1);
+    const Day day = Exact_Day(state, *box, now);
     return day == NoDay ? std::nullopt : std::optional(DayToDate(day));
 }
 
@@ -81,7 +91,7 @@ std::optional<CalendarDate> Exact_Date(const DatePageState& state, MakeEveryYear
 
 TickOutcome Date_Option_Checked(DatePageState& state, int box, const Moment& now) {
     if (box >= AlwaysActive)
-        return Start_Checked(state, box);
+        return Start_Checked(state, box, now);
     if (box == EveryDay) {
         Clear_Boxes(state, Monday, EveryYear);
     } else if (box <= Weeks) {
@@ -90,7 +100,7 @@ TickOutcome Date_Option_Checked(DatePageState& state, int box, const Moment& now
     } else if (box <= EveryXDays) {
         Clear_Others(state, EveryDay, EveryYear, box);
     } else if (box <= ExactSunday) {
-        Exact_Checked(state, box);
+        Exact_Checked(state, box, now);
     } else if (ExactDate_To_Text4(state, MakeEveryYear::Yes, now)) {
         Clear_Boxes(state, EveryDay, ExactSunday);
         state.Tick(OnDate) = true;
@@ -111,6 +121,7 @@ void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& 
     const std::size_t first = exact ? ExactThis : StartThis;
     state.Option1[first] = !next;
     state.Option1[first + 1] = next;
+    state.TickedOn[exact ? ExactField : StartField] = now.Today;
     const int monday = exact ? ExactMonday : StartMonday;
     for (int weekday = 0; weekday < 7; ++weekday) {
         const int number = monday + weekday;
@@ -138,11 +149,18 @@ std::optional<int> Exact_Tick(const DatePageState& state) {
     return std::nullopt;
 }
 
-Day Weekday_Day(const Moment& now, bool nextWeek, int weekday) {
-    const int present = now.Weekday + 1;
-    if (!nextWeek && present > weekday)
-        return NoDay;
-    return now.Today + weekday + (nextWeek ? 7 : 0) - present;
+Day Exact_Day(const DatePageState& state, int box, const Moment& now) {
+    const Day ticked = Ticked_On(state, ExactField, now);
+    if (box < ExactMonday)
+        return box == Tomorrow ? ticked + 1 : ticked;
+    return Weekday_Day(now, ticked, state.Option1[ExactNext], box - ExactMonday);
+}
+
+Day Start_Day(const DatePageState& state, int box, const Moment& now) {
+    const Day ticked = Ticked_On(state, StartField, now);
+    if (box == StartTomorrow)
+        return ticked + 1;
+    return Weekday_Day(now, ticked, state.Option1[StartNext], box - StartMonday);
 }
 
 CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now) {

@@ -44,6 +44,8 @@ struct DatePageState {
     QString Text3;                               // every x days
     std::array<QString, 2> Text4;                // by DateField
     std::array<bool, 4> Option1{};               // by WeekOption
+    // By DateField: the day on which a box was ticked that counts from it; 0 = not by hand.
+    std::array<Day, 2> TickedOn{};
 
     bool operator==(const DatePageState&) const = default;
     bool& Tick(int box) { return Ticks[static_cast<std::size_t>(box)]; }
@@ -65,7 +67,10 @@ void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& 
 bool ExactDate_To_Text4(DatePageState& state, MakeEveryYear make, const Moment& now);
 // The first tick among the boxes of the exact date.
 std::optional<int> Exact_Tick(const DatePageState& state);
-// NextWeekdayDay for a moment that was read before; weekday 1 = Monday; -1 when it has passed.
-Day Weekday_Day(const Moment& now, bool nextWeek, int weekday);
+// "Today", "Tomorrow" and the weekdays mean the day on which they were ticked.
+// The Day of a box of the exact date other than "On:"; -1 when it had passed.
+Day Exact_Day(const DatePageState& state, int box, const Moment& now);
+// The same for a box of the start date.
+Day Start_Day(const DatePageState& state, int box, const Moment& now);
 // Where the calendar opens for a field's text; day 0: in the present month, with no day chosen.
 CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now);

@@ -18,6 +18,8 @@ public:
     virtual void Restart_HideErrorShapeTimer() = 0;
     // True: saved, or nothing is selected.
     virtual bool Save_View_To_Reminder(CategoryOnSave category) = 0;
+    // To the selected reminder, at once: a save that is refused does not take it back.
+    virtual void Condition_Added(const HourSetup& condition) = 0;
     // The next run date on the selected card; -1 = none.
     virtual void Show_NextRun(Day nextRun) = 0;
 };

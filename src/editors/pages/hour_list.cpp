@@ -63,6 +63,8 @@ void HourList::Add_View() {
 void HourList::Set_Rows(std::vector<HourRow> shown) {
     rows = std::move(shown);
     errorRow = -1;
+    for (HourRowView* view : views)
+        view->Forget_Undo();
     const std::int64_t overhang = std::int64_t{RowPitch} * Row_Count() - Picture4->height();
     const bool passes = overhang > 0;
     {
@@ -128,6 +130,11 @@ void HourList::Set_Text(int row, HourCell cell, const QString& text) {
 void HourList::Set_Enabled(int row, bool on) {
     if (Is_Row(row))
         rows[static_cast<std::size_t>(row)].Enabled = on;
+}
+
+void HourList::Note_Stored(const ReminderClass& reminder) {
+    for (int row = 0; row < Row_Count() && row <= reminder.HourSetupList_Size(); ++row)
+        rows[static_cast<std::size_t>(row)].Stored = reminder.GetHourSetup(row);
 }
 
 void HourList::Scroll_To(int row) {

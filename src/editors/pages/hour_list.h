@@ -23,6 +23,8 @@ public:
     // Nothing happens for a row that is not there.
     void Set_Text(int row, HourCell cell, const QString& text);
     void Set_Enabled(int row, bool on);
+    // The record has taken the rows as they are.
+    void Note_Stored(const ReminderClass& reminder);
     void Scroll_To(int row);
     // A red rectangle around the row; -1: none.
     void Mark_Error(int row);

@@ -60,10 +60,10 @@ void HourPage::Connect_Fields() {
 }
 
 void HourPage::Clear_View() {
-    pages::Show_Text(view->Text5, u"20:30"_s);
-    pages::Show_Text(view->Text6, u"1h30m"_s);
-    pages::Show_Text(view->Text7, u"10:00"_s);
-    pages::Show_Text(view->Text13, u"14:00"_s);
+    view->Text5->setText(u"20:30"_s);
+    view->Text6->setText(u"1h30m"_s);
+    view->Text7->setText(u"10:00"_s);
+    view->Text13->setText(u"14:00"_s);
     view->p3Chk[0]->Set_Ticked(false);
     view->p3Chk[1]->Set_Ticked(true);
 }
@@ -78,8 +78,10 @@ bool HourPage::Save_HourSetup_List(ShowErrors show) {
     if (reminder == nullptr)
         return true;
     const auto fault = Save_HourRows(view->List->Rows(), *reminder);
-    if (!fault)
+    if (!fault) {
+        view->List->Note_Stored(*reminder);
         return true;
+    }
     if (show == ShowErrors::No)
         return false;
     const QPointer<HourPage> alive(this);
@@ -109,6 +111,7 @@ void HourPage::wbButton1_Click(int index) {
     if (!message.isEmpty()) {
         platform::Dialogs::Get().Message(message, platform::BoxStyle::Exclamation);
     } else if (rows.size() > before) {
+        view->host.Condition_Added(reminder->GetHourSetup(reminder->HourSetupList_Size()));
         view->List->Set_Rows(std::move(rows));
         view->List->Scroll_To(static_cast<int>(before));
     }

@@ -69,6 +69,8 @@ TimeField* HourRowView::Make_Field(HourCell cell) {
 }
 
 void HourRowView::Show_Row(int number, const HourRow& shown) {
+    if (row != number)
+        Forget_Undo();
     row = number;
     setVisible(row >= 0);
     if (row < 0)
@@ -110,6 +112,13 @@ void HourRowView::Lay_Out(const HourRow& shown) {
 void HourRowView::Show_Text(HourCell cell, const QString& text) {
     filling = true;
     pages::Show_Text(p4Text(cell), text);
+    filling = false;
+}
+
+void HourRowView::Forget_Undo() {
+    filling = true;
+    for (TimeField* field : fields)
+        field->setText(field->text());
     filling = false;
 }
 

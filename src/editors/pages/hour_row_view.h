@@ -22,6 +22,8 @@ public:
     // number: of the row; -1 hides all.
     void Show_Row(int number, const HourRow& row);
     void Show_Text(HourCell cell, const QString& text);
+    // What was typed into another row cannot be undone into this one.
+    void Forget_Undo();
     void Set_Error(bool value);
     int Row() const { return row; }
 

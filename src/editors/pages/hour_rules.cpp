@@ -34,15 +34,25 @@ private:
 // The message of a row that does not pass; empty: the setup is filled.
 QString Read_Row(const HourRow& row, HourSetup& setup) {
     TimeReader reader;
+    const HourRow before = row.Stored ? Row_Of(*row.Stored) : HourRow();
+    const auto Stands = [&](HourCell cell) {
+        return row.Stored && row.Text(cell) == before.Text(cell);
+    };
+    const bool repeats =
+        row.Type == HourRowType::EveryFromTo || row.Type == HourRowType::EveryFromStartUp;
     setup = {static_cast<std::int16_t>(row.Enabled ? On : 0), AtStartUpMinute, 0, 0};
-    if (row.Type == HourRowType::EveryFromTo || row.Type == HourRowType::EveryFromStartUp)
-        setup.EveryXMinutes = reader.Period(row.Period);
+    if (repeats)
+        setup.EveryXMinutes =
+            Stands(HourCell::Period) ? row.Stored->EveryXMinutes : reader.Period(row.Period);
     if (row.Type == HourRowType::At || row.Type == HourRowType::EveryFromTo)
-        setup.StartMinute = reader.Colon(row.Start);
-    if (row.Type == HourRowType::EveryFromTo || row.Type == HourRowType::EveryFromStartUp)
-        setup.EndMinute = reader.Colon(row.Until);
+        setup.StartMinute =
+            Stands(HourCell::Start) ? row.Stored->StartMinute : reader.Colon(row.Start);
+    if (repeats)
+        setup.EndMinute = Stands(HourCell::Until) ? row.Stored->EndMinute : reader.Colon(row.Until);
     if (!reader.Message().isEmpty())
         return reader.Message();
+    if (Stands(HourCell::Start) && Stands(HourCell::Until))
+        return {};
     // Equal times are refused as well, though the words say greater: that is meant.
     if (row.Type == HourRowType::EveryFromTo && setup.EndMinute <= setup.StartMinute)
         return u"'Starting at' value is greater than 'until' value"_s;
@@ -117,8 +127,10 @@ std::vector<HourRow> Rows_Of(const ReminderClass& reminder) {
     std::vector<HourRow> rows;
     const std::int32_t count = reminder.HourSetupList_Size() + 1;
     rows.reserve(static_cast<std::size_t>(count));
-    for (std::int32_t index = 0; index <= reminder.HourSetupList_Size(); ++index)
+    for (std::int32_t index = 0; index <= reminder.HourSetupList_Size(); ++index) {
         rows.push_back(Row_Of(reminder.GetHourSetup(index)));
+        rows.back().Stored = reminder.GetHourSetup(index);
+    }
     return rows;
 }
 

@@ -17,6 +17,8 @@ struct HourRow {
     QString Start;  // "20:30"
     QString Until;  // "20:30"
     QString Period; // "1h30m"
+    // What the record gave: a field that still shows it is not checked. None for a row to be added.
+    std::optional<HourSetup> Stored{};
 
     QString& Text(HourCell cell) { return this->*Field_Of(cell); }
     const QString& Text(HourCell cell) const { return this->*Field_Of(cell); }
@@ -33,7 +35,9 @@ struct HourRowPart {
 };
 std::vector<HourRowPart> Parts_Of(HourRowType type);
 
+// As a new row.
 HourRow Row_Of(const HourSetup& setup);
+// The record's rows.
 std::vector<HourRow> Rows_Of(const ReminderClass& reminder);
 
 struct HourFault {

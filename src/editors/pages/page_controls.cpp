@@ -2,6 +2,7 @@
 
 #include "controls/metrics.h"
 #include "controls/painting.h"
+#include "controls/text_fields.h"
 #include "controls/wb_button.h"
 
 #include <QFocusEvent>
@@ -47,7 +48,9 @@ wbButton* pages::Add_Button(const QString& caption, const QRect& place, QWidget*
 void pages::Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength) {
     field->setFont(Small_Font());
     field->setGeometry(place);
-    field->setMaxLength(maxLength);
+    Limit_Field(
+        field, [maxLength](const QString& text) { return text.size() <= maxLength; },
+        u"This is too long: up to %1 letters. Nothing was changed."_s.arg(maxLength));
     field->setAccessibleName(name);
 }
 

@@ -25,7 +25,7 @@ inline constexpr int ButtonHeight = 23;
 QLabel* Add_Caption(const QString& text, int left, int top, QWidget* parent);
 QLabel* Add_Heading(const QString& text, int left, int top, QWidget* parent);
 wbButton* Add_Button(const QString& caption, const QRect& place, QWidget* parent);
-// name: what a screen reader says.
+// name: what a screen reader says. A longer text than maxLength letters is refused whole.
 void Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength);
 // Leaves the cursor where it is when the text is there already.
 void Show_Text(QLineEdit* field, const QString& text);

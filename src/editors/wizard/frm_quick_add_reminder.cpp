@@ -2,7 +2,9 @@
 
 #include "accessories/help/help.h"
 #include "controls/chk_box.h"
+#include "controls/combo_box.h"
 #include "controls/program_end.h"
+#include "controls/text_fields.h"
 #include "controls/wb_button.h"
 #include "delivery/deliver.h"
 #include "editors/list/frm_reminder_edit.h"
@@ -11,10 +13,9 @@
 #include "editors/wizard/page_parts.h"
 #include "platform/dialogs.h"
 
-#include <QComboBox>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 
 #include <algorithm>
@@ -58,8 +59,8 @@ void frmQuickAddReminder::Hour_Unchecked(std::size_t index) {
         p2ChkImage[index]->Set_Ticked(true);
 }
 
-void frmQuickAddReminder::Text1_LostFocus() {
-    if (Text_FollowsTitle(State()))
+void frmQuickAddReminder::Text1_LostFocus(Qt::FocusReason reason) {
+    if (Leaves_Field(reason) && Text_FollowsTitle(State()))
         page_parts::Set_MemoText(Text3, Text1->text());
 }
 
@@ -145,7 +146,7 @@ void frmQuickAddReminder::frmCalendarCopy_DateSelected(const QString& NewDate) {
 
 bool frmQuickAddReminder::eventFilter(QObject* watched, QEvent* event) {
     if (watched == Text1 && event->type() == QEvent::FocusOut)
-        Text1_LostFocus();
+        Text1_LostFocus(static_cast<QFocusEvent*>(event)->reason());
     return Form::eventFilter(watched, event);
 }
 

@@ -12,9 +12,9 @@
 #include <array>
 
 class ChkBox;
-class QComboBox;
+class ComboBox;
 class QLineEdit;
-class QPlainTextEdit;
+class MemoField;
 class QRadioButton;
 class TimeField;
 
@@ -38,7 +38,7 @@ private:
     void Build_Buttons();
     void Choose_Day(std::size_t index);
     void Hour_Unchecked(std::size_t index);
-    void Text1_LostFocus();
+    void Text1_LostFocus(Qt::FocusReason reason);
 
     QuickAddState State() const;
     // The own reminder; made anew when somebody has deleted it.
@@ -51,8 +51,8 @@ private:
 
     ReminderRef pending;
     QLineEdit* Text1 = nullptr;
-    QPlainTextEdit* Text3 = nullptr;
-    QComboBox* Combo1 = nullptr;
+    MemoField* Text3 = nullptr;
+    ComboBox* Combo1 = nullptr;
     std::array<QRadioButton*, 3> Option1{};
     std::array<ChkBox*, 7> p2ChkImage{}; // 0..3 hours, 4..6 days
     QLineEdit* Text5 = nullptr;

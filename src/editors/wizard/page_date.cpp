@@ -49,7 +49,7 @@ void WizardDatePage::Build_ExactDate() {
     QWidget* page =
         Sub_Page(WizardType::ExactDate, u"Enter the date when the reminder will be displayed:"_s);
     Text1 = Add_Field(page, u"Text1"_s, u"Date"_s, {0, FieldTop, 100, FieldHeight});
-    Allow_Only(Text1, Is_DateCharacter);
+    Allow_Only(Text1, Is_DateCharacter, DateCharacters_Word());
     firstFields[0] = Text1;
     Add_Text(page, u"(%1)"_s.arg(Global_DateFormat), 108, FieldTop + 4, 0, TextLook::Hint)
         ->setObjectName(u"Label21"_s);
@@ -112,7 +112,7 @@ void WizardDatePage::Build_EveryXDays() {
     QWidget* page = Sub_Page(WizardType::EveryXDays,
                              u"Enter after how many days the reminder will be displayed again:"_s);
     QLineEdit* Text2 = Add_Field(page, u"Text2"_s, u"Days"_s, {0, FieldTop, 60, FieldHeight});
-    Allow_Only(Text2, Is_DigitCharacter);
+    Allow_Only(Text2, Is_DigitCharacter, u"Only digits can stand here. Nothing was changed."_s);
     firstFields[static_cast<std::size_t>(WizardType::EveryXDays)] = Text2;
     Add_Text(page, u"day(s)"_s, 68, FieldTop + 4);
     QLabel* sentence = Add_Text(page, {}, 0, ButtonTop + 4, Width);
@@ -128,7 +128,7 @@ void WizardDatePage::Build_Birthday() {
     QWidget* page =
         Sub_Page(WizardType::Birthday, u"Enter the day and the month of the birthday:"_s);
     Text3 = Add_Field(page, u"Text3"_s, u"Day and month"_s, {0, FieldTop, 100, FieldHeight});
-    Allow_Only(Text3, Is_DateCharacter);
+    Allow_Only(Text3, Is_DateCharacter, DateCharacters_Word());
     firstFields[static_cast<std::size_t>(WizardType::Birthday)] = Text3;
     Add_Text(page, u"(%1)"_s.arg(Birthday_Format()), 108, FieldTop + 4, 0, TextLook::Hint)
         ->setObjectName(u"Label22"_s);

@@ -1,9 +1,9 @@
 #include "editors/wizard/page_message.h"
 
+#include "controls/text_fields.h"
 #include "editors/wizard/sample_picture.h"
 
 #include <QLabel>
-#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 using namespace page_parts;
@@ -22,7 +22,7 @@ WizardMessagePage::WizardMessagePage(WizardState& wizardState, QWidget* parent)
              TextLook::Hint);
     Add_Text(this, u"Preview:"_s, 0, 125, 0, TextLook::Heading);
     samplePicture = new SamplePicture({0, SampleTop, Width, Height - SampleTop}, this);
-    connect(Text5, &QPlainTextEdit::textChanged, this, [this] {
+    connect(Text5, &MemoField::textChanged, this, [this] {
         state.Text5 = Memo_Text(Text5);
         Show_State();
     });

@@ -13,6 +13,6 @@ public:
     QWidget* First_Field() const override;
 
 private:
-    QPlainTextEdit* Text5 = nullptr;
+    MemoField* Text5 = nullptr;
     SamplePicture* samplePicture = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "editors/wizard/page_misc.h"
 
-#include <QComboBox>
+#include "controls/combo_box.h"
+
 #include <QLabel>
 #include <QLineEdit>
 
@@ -20,7 +21,7 @@ WizardMiscPage::WizardMiscPage(WizardState& wizardState, QWidget* parent)
              0, 122, Width);
     Add_Text(this, u"To add a new category type the name in the box, and click \"Next\""_s, 0, 160,
              Width);
-    connect(Combo1, &QComboBox::editTextChanged, this,
+    connect(Combo1, &ComboBox::editTextChanged, this,
             [this](const QString& text) { state.Combo1 = text; });
 }
 

@@ -12,5 +12,5 @@ public:
 
 private:
     QLineEdit* Text7 = nullptr;
-    QComboBox* Combo1 = nullptr;
+    ComboBox* Combo1 = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "editors/wizard/page_parts.h"
 
 #include "controls/chk_box.h"
+#include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/form.h"
 #include "controls/icons.h"
@@ -10,15 +11,11 @@
 #include "core/categories.h"
 #include "platform/record_text.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QValidator>
 
 #include <algorithm>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -30,35 +27,6 @@ constexpr int OptionHeight = 18;
 constexpr int CalendarButtonWidth = 136;
 constexpr ColorValue HintColor = 0x606060;
 constexpr ColorValue MarkColor = 0xC0C0FF;
-
-// Stops at what a stored text can hold, and at characters that the field does not take.
-class FieldValidator : public QValidator {
-public:
-    FieldValidator(std::function<bool(QChar)> characters, QObject* parent)
-        : QValidator(parent), allowed(std::move(characters)) {}
-    State validate(QString& text, int&) const override {
-        const bool taken = !allowed || std::all_of(text.begin(), text.end(), allowed);
-        return taken && Fits_RecString(text) ? Acceptable : Invalid;
-    }
-
-private:
-    std::function<bool(QChar)> allowed;
-};
-
-void Stop_WhenFull(QPlainTextEdit* memo) {
-    auto fitting = std::make_shared<QString>();
-    QObject::connect(memo, &QPlainTextEdit::textChanged, memo, [memo, fitting] {
-        if (Fits_RecString(Memo_Text(memo))) {
-            *fitting = Plain_Text(*memo);
-            return;
-        }
-        const int place = memo->textCursor().position();
-        memo->setPlainText(*fitting);
-        QTextCursor cursor = memo->textCursor();
-        cursor.setPosition(std::min(place, static_cast<int>(fitting->size())));
-        memo->setTextCursor(cursor);
-    });
-}
 
 } // namespace
 
@@ -92,19 +60,18 @@ QLineEdit* Add_Field(QWidget* parent, const QString& name, const QString& spoken
     field->setAccessibleName(spoken);
     field->setFont(Small_Font());
     field->setGeometry(place);
-    Allow_Only(field, nullptr);
+    Limit_ToStoredText(field);
     return field;
 }
 
-QPlainTextEdit* Add_Memo(QWidget* parent, const QString& name, const QString& spoken,
-                         const QRect& place) {
-    auto* memo = new QPlainTextEdit(parent);
+MemoField* Add_Memo(QWidget* parent, const QString& name, const QString& spoken,
+                    const QRect& place) {
+    auto* memo = new MemoField(parent);
     memo->setObjectName(name);
     memo->setAccessibleName(spoken);
     memo->setFont(Small_Font());
     memo->setTabChangesFocus(true);
     memo->setGeometry(place);
-    Stop_WhenFull(memo);
     return memo;
 }
 
@@ -144,15 +111,17 @@ wbButton* Add_CalendarButton(QWidget* parent, const QString& name, const QPoint&
     return button;
 }
 
-QComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
-    auto* box = new QComboBox(parent);
+ComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
+    auto* box = new ComboBox(parent);
     box->setObjectName(u"Combo1"_s);
     box->setFont(Small_Font());
     box->setGeometry(place);
     box->setEditable(true);
+    // Names are taken as they are typed.
+    box->setCompleter(nullptr);
     box->setInsertPolicy(QComboBox::NoInsert);
     Name_Combo(box, u"Category"_s);
-    box->setValidator(new FieldValidator(nullptr, box));
+    Limit_ToStoredText(box->lineEdit());
     box->addItem(u"--"_s);
     for (const CategoryEntry& entry : Global_Categories) {
         if (entry.Name.isEmpty())
@@ -163,15 +132,20 @@ QComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
     return box;
 }
 
-void Allow_Only(QLineEdit* field, std::function<bool(QChar)> allowed) {
-    field->setValidator(new FieldValidator(std::move(allowed), field));
+void Allow_Only(QLineEdit* field, bool (*allowed)(QChar), const QString& word) {
+    Limit_Field(
+        field,
+        [allowed](const QString& text) {
+            return Fits_RecString(text) && std::all_of(text.begin(), text.end(), allowed);
+        },
+        word);
 }
 
-QString Memo_Text(const QPlainTextEdit* memo) {
-    return Plain_Text(*memo).replace("\n"_L1, "\r\n"_L1);
+QString Memo_Text(const MemoField* memo) {
+    return memo->Text().replace("\n"_L1, "\r\n"_L1);
 }
 
-void Set_MemoText(QPlainTextEdit* memo, const QString& text) {
+void Set_MemoText(MemoField* memo, const QString& text) {
     memo->setPlainText(QString(text).replace("\r\n"_L1, "\n"_L1));
 }
 

@@ -8,10 +8,10 @@
 #include <functional>
 
 class ChkBox;
-class QComboBox;
+class ComboBox;
+class MemoField;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QRadioButton;
 class QWidget;
 class wbButton;
@@ -28,8 +28,8 @@ QLabel* Add_Text(QWidget* parent, const QString& text, int left, int top, int wi
                  TextLook look = TextLook::Plain);
 QLineEdit* Add_Field(QWidget* parent, const QString& name, const QString& spoken,
                      const QRect& place);
-QPlainTextEdit* Add_Memo(QWidget* parent, const QString& name, const QString& spoken,
-                         const QRect& place);
+MemoField* Add_Memo(QWidget* parent, const QString& name, const QString& spoken,
+                    const QRect& place);
 QRadioButton* Add_Option(QWidget* parent, const QString& name, const QString& caption, int left,
                          int top);
 // ticked: told of every click.
@@ -40,13 +40,13 @@ wbButton* Add_Button(QWidget* parent, const QString& name, const QString& captio
 // With a small picture of a calendar.
 wbButton* Add_CalendarButton(QWidget* parent, const QString& name, const QPoint& place);
 // "--" and the categories up to the first empty name.
-QComboBox* Add_CategoryBox(QWidget* parent, const QRect& place);
+ComboBox* Add_CategoryBox(QWidget* parent, const QRect& place);
 
-// Lets the field take only characters that "allowed" takes.
-void Allow_Only(QLineEdit* field, std::function<bool(QChar)> allowed);
+// Lets the field take only characters that "allowed" takes; what it takes instead is said by word.
+void Allow_Only(QLineEdit* field, bool (*allowed)(QChar), const QString& word);
 // The text of a memo as it is stored, with CR LF; and the way back.
-QString Memo_Text(const QPlainTextEdit* memo);
-void Set_MemoText(QPlainTextEdit* memo, const QString& text);
+QString Memo_Text(const MemoField* memo);
+void Set_MemoText(MemoField* memo, const QString& text);
 // A red ground for a field at fault.
 void Mark_Field(QLineEdit* field, bool marked);
 

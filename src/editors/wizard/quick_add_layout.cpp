@@ -1,7 +1,9 @@
 // What stands where in the dialog; pixels.
 #include "controls/chk_box.h"
+#include "controls/combo_box.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
@@ -10,10 +12,8 @@
 #include "editors/wizard/page_parts.h"
 #include "platform/shown_text.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 
 #include <algorithm>
@@ -129,7 +129,7 @@ TimeField* frmQuickAddReminder::Add_TimeBox(const QString& name, const QRect& pl
     field->setToolTip(u"hh:mm"_s);
     field->setFont(Small_Font());
     field->setGeometry(place);
-    Allow_Only(field, nullptr);
+    Limit_ToStoredText(field);
     clock.Watch(field);
     connect(field, &TimeField::Clicked, this, [this, name, field] {
         clock.Show_Clock_For_Textbox(name, field, ParseTime_Colon(field->text()),

@@ -125,12 +125,8 @@ Check Take_Date(WizardState& state, const Moment& now) {
 }
 
 Check Take_Time(WizardState& state) {
-    const HourListView view = Rebuild_HourList(state);
-    const QString& error = view.ErrorText;
-    // A ticked box without a text leaves the list of faults empty.
-    const bool faulty =
-        std::find(view.Marked.begin(), view.Marked.end(), true) != view.Marked.end();
-    if (error.isEmpty() && !faulty)
+    const QString error = Rebuild_HourList(state).ErrorText;
+    if (error.isEmpty())
         return {};
     return Warning(error == "--"_L1 ? u"Select at least one condition"_s
                                     : "Invalid value: "_L1 + error);
@@ -229,7 +225,9 @@ HourListView Rebuild_HourList(WizardState& state) {
         const std::int32_t minute = ParseTime_Colon(state.Text4[i]);
         view.Marked[i] = minute == -1;
         if (view.Marked[i]) {
-            faults << state.Text4[i];
+            // A ticked box without a text is no fault beside a good one.
+            if (!state.Text4[i].isEmpty())
+                faults << state.Text4[i];
             continue;
         }
         times << MinutesToTime(minute);

@@ -55,6 +55,11 @@ bool Is_DateCharacter(QChar letter) {
            (Is_Separator(letter) && Global_DateFormat.contains(letter));
 }
 
+QString DateCharacters_Word() {
+    return u"Only a date like %1 can stand here, in digits. Nothing was changed."_s.arg(
+        Global_DateFormat);
+}
+
 bool Is_DigitCharacter(QChar letter) {
     return letter >= u'0' && letter <= u'9';
 }

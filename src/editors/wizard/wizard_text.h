@@ -11,6 +11,7 @@ int Parse_Birthday(const QString& text, std::int32_t& day, std::int32_t& month);
 
 // What the boxes for dates take.
 bool Is_DateCharacter(QChar letter);
+QString DateCharacters_Word();
 bool Is_DigitCharacter(QChar letter);
 // The number in the box for days; -1 for one that no reminder can hold, below 1 included.
 std::int32_t Days_FromText(const QString& text);

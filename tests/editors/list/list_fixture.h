@@ -2,6 +2,7 @@
 #pragma once
 
 #include "accessories/help/help.h"
+#include "controls/combo_box.h"
 #include "controls/text_fields.h"
 #include "core/categories.h"
 #include "core/date_text.h"
@@ -16,7 +17,6 @@
 #include "support/fake_files.h"
 #include "support/fake_paths.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>

@@ -3,6 +3,7 @@
 #include "editors/list/click_label.h"
 #include "editors/list/frm_re_function_edit.h"
 #include "editors/pages/date_page.h"
+#include "editors/pages/hour_page.h"
 #include "list_fixture.h"
 
 #include <QScrollBar>
@@ -18,9 +19,10 @@ protected:
         Type(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"0"_s);
     }
     void Expect_Refusal() { dialogs.Expect_Message(u"Invalid Every X weeks value"_s); }
-    void Expect_DeleteQuestion(platform::Answer answer) {
-        dialogs.Expect_Question(u"Delete: one ?"_s, answer, platform::BoxStyle::Question,
-                                u"Confirm"_s);
+    void Expect_DeleteQuestion(const QString& title, platform::Answer answer) {
+        dialogs.Expect_Question(u"Delete: %1 ?\r\n\r\n\"Insert text here\"\r\n"
+                                "Next run: Today"_s.arg(title),
+                                answer, platform::BoxStyle::Question, u"Confirm"_s);
     }
     static std::string Record_Of(const ReminderClass& reminder) {
         RecordWriter stream;
@@ -70,9 +72,65 @@ TEST_F(ListWindow, A_reminder_of_every_kind_goes_through_the_pages_unchanged) {
             EXPECT_EQ(Record_Of(Reminder(slot)), before[static_cast<std::size_t>(slot)])
                 << Reminder(slot).rs_Title.toStdString();
         }
-        EXPECT_EQ(Reminder(slot).rs_Title, Titles()[slot]);
     }
+    EXPECT_EQ(Titles(), u"every day|weeks|days|exact|month"_s.split(u'|'));
     EXPECT_EQ(Reminder(2).rs_ReDays, 5);
+}
+
+TEST_F(ListWindow, What_is_set_back_after_a_save_is_saved_again) {
+    ReminderClass& reminder = Add_Kind(u"one"_s, DateType::Weekdays);
+    reminder.rs_wDays = {1, 0, 0, 0, 0, 0, 0, 0};
+    reminder.rs_ReWeeks = 3;
+    reminder.rs_Text = u"text"_s;
+    reminder.rs_Reminder_Type = ReminderType::Centered;
+    reminder.rs_SoundPath = u"/a.ogg"_s;
+    reminder.AddNewHourSetup({-1, 60, 120, 15});
+    frmReminderEdit& window = Open_On(0);
+    MessagePage& message = *window.Picture6;
+    SoundPage& sound = *window.Picture7;
+    std::vector<std::pair<QString, std::function<void(bool back)>>> fields;
+    const auto Add_Field = [&](QWidget* field, const QString& other, const QString& own) {
+        fields.emplace_back(other, [=](bool back) { Type(field, back ? own : other); });
+    };
+    const auto Add_Box = [&](ChkBox* box) {
+        fields.emplace_back(box->accessibleName(), [=](bool) { box->Toggle(); });
+    };
+    const auto Hour = [&](const QString& name) { return Named<QLineEdit>(window.Picture3, name); };
+    Add_Field(message.Text9, u"title 2"_s, u"one"_s);
+    Add_Field(message.Text8, u"text 2"_s, u"text"_s);
+    for (QLineEdit* caption : message.Text10)
+        Add_Field(caption, u"caption 2"_s, caption->text());
+    Add_Field(sound.Text11, u"/b.ogg"_s, u"/a.ogg"_s);
+    Add_Field(Hour(u"Row 1: at"_s), u"20:01"_s, u"20:00"_s);
+    Add_Field(Hour(u"Row 2: every"_s), u"20m"_s, u"15m"_s);
+    Add_Field(Hour(u"Row 2: starting at"_s), u"01:30"_s, u"01:00"_s);
+    Add_Field(Hour(u"Row 2: until"_s), u"02:30"_s, u"02:00"_s);
+    Add_Field(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"4"_s, u"3"_s);
+    for (ChkBox* box : message.p6ChkImage)
+        Add_Box(box);
+    for (ChkBox* box : sound.p7ChkImage)
+        Add_Box(box);
+    for (const QString& day : {u"Each: Tuesday"_s, u"Every X Weeks"_s})
+        Add_Box(Named<ChkBox>(window.Picture2, day));
+    Add_Box(Named<ChkBox>(window.Picture3, u"Row 1 enabled"_s));
+    fields.emplace_back(u"category"_s, [&](bool back) {
+        window.Picture10->Set_CategoryText(back ? u"Work"_s : u"Home"_s);
+    });
+    fields.emplace_back(u"icon"_s, [&](bool back) {
+        window.Picture10->IconSelIMG->Select_Icon_By_Name(back ? QString() : u"Gift"_s);
+    });
+    fields.emplace_back(u"mode"_s, [&](bool back) { message.Option2[back ? 2 : 0]->click(); });
+    const auto Saved = [&] {
+        EXPECT_TRUE(window.Save_View_To_Reminder(CategoryOnSave::Take));
+        return Record_Of(reminder);
+    };
+    const std::string before = Saved();
+    for (const auto& [name, change] : fields) {
+        change(false);
+        EXPECT_NE(Saved(), before) << name.toStdString();
+        change(true);
+        EXPECT_EQ(Saved(), before) << name.toStdString();
+    }
 }
 
 TEST_F(ListWindow, Cards_tell_title_text_and_next_run_and_wear_the_record_s_state) {
@@ -127,9 +185,14 @@ TEST_F(ListWindow, Title_and_text_reach_record_and_card_as_they_are_typed) {
     Type(window.Picture6->Text9, u"Bread"_s);
     EXPECT_EQ(Reminder(0).rs_Title, u"Bread"_s);
     ASSERT_NE(Card(u"Bread"_s), nullptr);
-    QFocusEvent leave(QEvent::FocusOut);
-    QCoreApplication::sendEvent(window.Picture6->Text9, &leave);
-    EXPECT_EQ(Reminder(0).rs_Text, u"Bread"_s); // it was "Insert text here" until then
+    // To its own menu, another window, and another field.
+    for (const auto reason :
+         {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::TabFocusReason}) {
+        EXPECT_EQ(Reminder(0).rs_Text, u"Insert text here"_s);
+        QFocusEvent leave(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(window.Picture6->Text9, &leave);
+    }
+    EXPECT_EQ(Reminder(0).rs_Text, u"Bread"_s);
     CardText* onCard = Card(u"Bread"_s)->Text12;
     EXPECT_EQ(Plain_Text(*onCard), u"Bread"_s);
     Type(onCard, u"a"_s);
@@ -137,6 +200,12 @@ TEST_F(ListWindow, Title_and_text_reach_record_and_card_as_they_are_typed) {
     QTest::keyClicks(onCard, u"b"_s);
     EXPECT_EQ(Reminder(0).rs_Text, u"a\r\nb"_s);
     EXPECT_EQ(Plain_Text(*window.Picture6->Text8), u"a\nb"_s);
+    // Nothing of it is undone into a reminder with the same text.
+    Reminder(Add(u"other"_s)).rs_Text = u"same"_s;
+    Type(window.Picture6->Text8, u"same"_s);
+    window.SelectReminder_Using_RListIndex(1);
+    QTest::keyClick(window.Picture6->Text8, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Reminder(1).rs_Text, u"same"_s);
 }
 
 TEST_F(ListWindow, A_field_at_fault_keeps_its_reminder_selected_whatever_is_tried) {
@@ -185,6 +254,18 @@ TEST_F(ListWindow, The_end_takes_a_good_page_and_brings_a_refused_record_back_as
     EXPECT_EQ(Record_Of(Reminder(slot)), before);
 }
 
+TEST_F(ListWindow, A_condition_added_after_a_refused_save_outlives_the_end) {
+    frmReminderEdit& window = Open_On(Add(u"one"_s));
+    Type(Named<QLineEdit>(window.Picture3, u"Row 1: at"_s), u"bad"_s);
+    dialogs.Expect_Message(u"Invalid time: \r\nbad"_s);
+    EXPECT_FALSE(window.Save_View_To_Reminder(CategoryOnSave::Take));
+    Click(Named<wbButton>(window.Picture3, u"Add to list: At"_s));
+    EXPECT_FALSE(Store_OpenPage());
+    ASSERT_EQ(Reminder(0).HourSetupList_Size(), 1);
+    EXPECT_EQ(Reminder(0).GetHourSetup(0), (HourSetup{-1, 1200, 0, 0}));
+    EXPECT_EQ(Reminder(0).GetHourSetup(1), (HourSetup{-1, 1230, 0, 0}));
+}
+
 TEST_F(ListWindow, A_selected_reminder_may_move_fire_or_go_away_from_outside) {
     Add(u"first"_s);
     Add(u"second"_s);
@@ -219,14 +300,42 @@ TEST_F(ListWindow, New_copy_paste_and_delete) {
     EXPECT_EQ(Reminder(2).rs_Title, u"one"_s);
     EXPECT_EQ(Reminder(2).rs_Category, u"-- (All)"_s);
     EXPECT_EQ(Reminder(2).rs_ID, 2);
-    Expect_DeleteQuestion(platform::Answer::No);
+    Expect_DeleteQuestion(u"one"_s, platform::Answer::No);
     Click(window.wbButton6);
     EXPECT_EQ(Titles().size(), 3);
-    Expect_DeleteQuestion(platform::Answer::Yes);
+    Expect_DeleteQuestion(u"one"_s, platform::Answer::Yes);
     Click(window.wbButton6);
     EXPECT_EQ(Titles(), (QStringList{u"Reminder"_s, u"one"_s}));
     EXPECT_EQ(Selected_Title(), u"none"_s);
     EXPECT_TRUE(window.Picture2->isHidden());
+}
+
+TEST_F(ListWindow, Keys_act_on_the_card_that_wears_the_frame) {
+    Add(u"one"_s);
+    Add(u"two"_s);
+    frmReminderEdit& window = Open_On(0);
+    Click(window.wbButton5); // the frame stays with the selection
+    window.Cards->setFocus();
+    QTest::keyClick(window.Cards, Qt::Key_Down);
+    EXPECT_EQ(Selected_Title(), u"one"_s);
+    QTest::keyClick(window.Cards, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(Selected_Title(), u"two"_s);
+    QTest::keyClick(window.Cards, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Reminder(3).rs_Title, u"two"_s);
+    EXPECT_EQ(window.Cards->Current_Row(), 1);
+    Delete_ReminderSlot(0); // the frame goes along with its card
+    window.Refresh_View();
+    EXPECT_EQ(window.Cards->Current_Row(), 0);
+    QTest::keyClick(window.Cards, Qt::Key_Down);
+    Expect_DeleteQuestion(u"Reminder"_s, platform::Answer::Yes);
+    QTest::keyClick(window.Cards, Qt::Key_Delete);
+    EXPECT_EQ(Titles(), (QStringList{u"two"_s, u"two"_s}));
+    Spoil_Date(Open_On(0));
+    window.Cards->setFocus();
+    QTest::keyClick(window.Cards, Qt::Key_End);
+    Expect_Refusal(); // and nothing is deleted
+    QTest::keyClick(window.Cards, Qt::Key_Delete);
+    EXPECT_EQ(Titles().size(), 2);
 }
 
 TEST_F(ListWindow, An_empty_category_offers_all_the_reminders) {
@@ -238,6 +347,14 @@ TEST_F(ListWindow, An_empty_category_offers_all_the_reminders) {
     QTest::mouseClick(window.Cards->Label15, Qt::LeftButton);
     EXPECT_EQ(Titles(), QStringList{u"one"_s});
     EXPECT_TRUE(window.Cards->Label12->isHidden());
+    Click_Card(u"one"_s);
+    QWheelEvent wheel({5, 5}, window.Combo2->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(window.Combo2, &wheel); // without the focus it changes nothing
+    EXPECT_EQ(window.Combo2->currentText(), u"-- (All)"_s);
+    EXPECT_EQ(Selected_Title(), u"one"_s);
+    Choose(window.Combo2, u"-- (All)"_s); // chosen already: the selection goes all the same
+    EXPECT_EQ(Selected_Title(), u"none"_s);
 }
 
 TEST_F(ListWindow, A_category_typed_is_added_moves_its_card_and_can_be_deleted) {
@@ -360,6 +477,21 @@ TEST_F(ListWindow, Display_mode_functions_and_sound) {
     EXPECT_EQ(Reminder(0).rs_SoundPath, base + u".mp3"_s);
     EXPECT_EQ(Reminder(0).rs_Reminder_Type, ReminderType::NextToToolbar);
     EXPECT_FALSE(Reminder(0).rs_Minimize_Apps);
+    const auto Play = [&] {
+        for (wbButton* button : sound.findChildren<wbButton*>())
+            if (button->Caption() == u"Play"_s)
+                Click(button);
+    };
+    Play();
+    EXPECT_EQ(media.commands.filter(u"PLAY"_s).size(), 1);
+    Type(sound.Text11, u"/nowhere.mp3"_s);
+    dialogs.Expect_Message(u"Invalid sound file"_s);
+    Play();
+    sound.p7ChkImage[1]->Toggle();
+    desktop.beeps = 0;
+    Play();
+    EXPECT_EQ(desktop.beeps, 1);
+    EXPECT_EQ(media.commands.filter(u"PLAY"_s).size(), 1);
 }
 
 } // namespace

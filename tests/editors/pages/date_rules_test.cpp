@@ -160,6 +160,11 @@ TEST_F(DateRules, Record_to_page_to_record_loses_what_the_rules_say_and_nothing_
         // Every year, chosen last year.
         {"3 - ........ 0 0 0 5 4 0 9227 0 0", ".............x.......xx.........",
          "3 - ........ 0 0 0 5 4 0 9592 0 0"},
+        // What no field takes when it is typed.
+        {"1 - x....... 365 0 0 0 0 0 0 0 0", ".x......x.............x.........", same},
+        {"2 - ........ 0 0 365 0 0 0 0 0 0", "..........x...........x.........", same},
+        {"4 - ........ 0 0 0 0 0 0 0 45 0", ".........x............x.........", same},
+        {"3 - ........ 0 0 0 29 2 0 -1 0 0", ".............x.......xx.........", same},
         {"0 - ........ 0 3 0 0 0 0 0 0 0", "......................x.........", everyDay}};
     for (const Case& row : cases) {
         ReminderClass reminder;
@@ -168,7 +173,8 @@ TEST_F(DateRules, Record_to_page_to_record_loses_what_the_rules_say_and_nothing_
         const DatePageState page = Load_DateSetup(reminder, Monday);
         EXPECT_EQ(Shown(page), row.ticks) << row.record;
         EXPECT_EQ(DateSetup_Warning(reminder).isEmpty(), reminder.rs_ReMonths == 0);
-        EXPECT_FALSE(Save_DateSetup(page, reminder, Monday)) << row.record;
+        EXPECT_FALSE(Save_DateSetup(page, Stored_Date(page, reminder), reminder, Monday))
+            << row.record;
         EXPECT_EQ(Date_Part(reminder), row.saved == same ? row.record : row.saved);
         EXPECT_EQ(reminder.rs_FirstRunDate, 77) << row.record; // the start date is the same
     }
@@ -206,13 +212,28 @@ TEST_F(DateRules, What_is_refused_and_in_which_words) {
         page.Text1 = page.Text2 = page.Text3 = page.Text4[0] = page.Text4[1] = row.text;
         ReminderClass reminder;
         reminder.rs_ActivationDay = 900;
-        const auto fault = Save_DateSetup(page, reminder, Wednesday);
+        const auto fault = Save_DateSetup(page, {}, reminder, Wednesday);
         ASSERT_EQ(fault ? static_cast<int>(fault->Mark) : -1, row.mark) << row.text.toStdString();
         if (!fault)
             continue;
         const bool namesText = row.mark == 3 || row.mark == 5;
         EXPECT_EQ(fault->Message, words[row.mark] + (namesText ? row.text : QString()));
         EXPECT_EQ(reminder.rs_ActivationDay, 0) << "a refused save leaves a cleared record";
+    }
+}
+
+TEST_F(DateRules, A_box_means_the_day_on_which_it_was_ticked) {
+    const auto Tuesday = Moment_Of({2026, 3, 3, 0, 0, 1, 0});
+    for (const auto& [box, day] : {std::pair(11, 0), {12, 1}, {15, 1}, {23, 1}, {26, 1}, {31, 6}}) {
+        for (const Moment& saved : {Monday, Tuesday, Wednesday}) {
+            DatePageState page = Ticked({box});
+            Date_Option_Checked(page, box, Monday);
+            ReminderClass reminder;
+            EXPECT_FALSE(Save_DateSetup(page, {}, reminder, saved)) << box;
+            EXPECT_EQ(box < 22 ? reminder.rs_SRLongday : reminder.rs_ActivationDay,
+                      Monday.Today + day)
+                << box;
+        }
     }
 }
 
@@ -242,7 +263,7 @@ TEST_F(DateRules, A_new_start_date_begins_the_cycles_again) {
         reminder.rs_FirstRunDate = 77;
         reminder.rs_wDaysArray_LWeek = row.lastWeek;
         reminder.rs_wDaysArray_LMonth = 88;
-        EXPECT_FALSE(Save_DateSetup(page, reminder, Monday)) << row.name;
+        EXPECT_FALSE(Save_DateSetup(page, {}, reminder, Monday)) << row.name;
         std::string after = std::to_string(reminder.rs_ActivationDay);
         for (const int number : {reminder.rs_FirstRunDate, reminder.rs_wDaysArray_LWeek,
                                  reminder.rs_wDaysArray_LMonth})

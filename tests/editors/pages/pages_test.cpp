@@ -91,6 +91,7 @@ protected:
         return saved;
     }
     void Show_NextRun(Day day) override { nextRun = day; }
+    void Condition_Added(const HourSetup&) override {}
 
     FakeSystem system;
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
@@ -127,6 +128,12 @@ TEST_F(Pages, The_next_run_follows_every_click_and_the_record_only_the_save) {
     EXPECT_TRUE(field->hasFocus());
     const QPoint beside = field->geometry().topLeft() - QPoint(1, 1);
     EXPECT_EQ(page.grab().toImage().pixelColor(beside), QColor(255, 0, 0));
+    system.clock.Set(2026, 3, 4, 9, 0);
+    Click(u"Exact date: Tuesday"_s); // has passed
+    system.dialogs.Expect_Message(u"Selected (Days setup->Exact date) day is invalid"_s);
+    EXPECT_FALSE(page.Save_DateSetup_To_Reminder(reminder, ShowErrors::Yes));
+    EXPECT_TRUE(Named<ChkBox>(u"Exact date: Tuesday"_s)->hasFocus());
+    system.clock.Set(2026, 3, 2, 9, 0);
     page.Set_LoadingView(true);
     Click(u"Exact date: Today"_s);
     EXPECT_EQ(nextRun, Today + 18);

@@ -1,4 +1,5 @@
 #include "controls/chk_box.h"
+#include "controls/combo_box.h"
 #include "controls/timers.h"
 #include "delivery/deliver.h"
 #include "delivery/near_placement.h"
@@ -53,10 +54,14 @@ TEST_F(QuickAddTest, ThePendingReminderIsInTheTableFromTheStartAndAcceptKeepsIt)
     EXPECT_EQ(Made().rs_ID, 1);
     EXPECT_EQ(Made().rs_DayCreated, Monday);
     Give_Focus(window);
-    Type(u"Text1"_s, u"Call Ann"_s);
+    Type(u"Text1"_s, u"Call"_s);
+    QFocusEvent elsewhere(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(Find(u"Text1"_s), &elsewhere);
+    QTest::keyClicks(Find(u"Text1"_s), u" Ann"_s);
     Find(u"Text3"_s)->setFocus();
     EXPECT_EQ(Find<QPlainTextEdit>(u"Text3"_s)->toPlainText(), u"Call Ann"_s);
-    Type(u"Combo1"_s, u"my things"_s);
+    EXPECT_EQ(Find<QComboBox>(u"Combo1"_s)->itemText(1), u"Work"_s);
+    Type(u"Combo1"_s, u"wo"_s); // and nothing more
     Click(u"Option1_2"_s);
     Click(u"p2ChkImage_5"_s);
     Click(u"p2ChkImage_5"_s); // stays
@@ -68,8 +73,8 @@ TEST_F(QuickAddTest, ThePendingReminderIsInTheTableFromTheStartAndAcceptKeepsIt)
     ASSERT_TRUE(Global_Reminders[1].Used);
     EXPECT_FALSE(Global_Reminders[1].Pending);
     EXPECT_EQ(Made().rs_Title + u'|' + Made().rs_Text, u"Call Ann|Call Ann"_s);
-    EXPECT_EQ(Made().rs_Category, u"My Things"_s);
-    EXPECT_NE(Find_Category(u"My Things"_s), -1);
+    EXPECT_EQ(Made().rs_Category, u"Wo"_s);
+    EXPECT_NE(Find_Category(u"Wo"_s), -1);
     EXPECT_EQ(Made().rs_Reminder_Type, ReminderType::Centered);
     EXPECT_EQ(Made().rs_DateType_Used, DateType::ExactDate);
     EXPECT_EQ(Made().rs_SRLongday, Monday + 1);
