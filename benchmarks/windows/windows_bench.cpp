@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -149,6 +150,22 @@ double Open_Notes(int notes) {
     return Median(times);
 }
 
+// A key in the only note, a text without a blank; the worst of twenty.
+double Worst_NoteKey() {
+    Global_Notes.resize(1);
+    Global_Notes[0].Text = QString(60000, u'a');
+    Show_NotesEditor();
+    Settle();
+    double worst = -1;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        auto* text = qobject_cast<QPlainTextEdit*>(widget);
+        for (int key = 0; key < 20 && text != nullptr && text->isVisible(); ++key)
+            worst = std::max(worst, Time_Of([text] { text->insertPlainText(u"x"_s); }));
+    }
+    Close_All();
+    return worst;
+}
+
 void Print(const char* what, double many, double few, double limit) {
     std::printf("%s: %.1f ms against %.1f ms, ratio %.2f (limit %.1f)\n", what, many, few,
                 many / few, limit);
@@ -193,6 +210,8 @@ int main(int argc, char** argv) {
         if (qobject_cast<frmNotesEditor*>(window) != nullptr)
             std::printf("worst step of 5,000 notes: %.1f ms\n", Worst_Step(window));
     Close_All();
+    std::printf("worst key in a note of 60,000 letters: %.1f ms (a frame is 16.7)\n",
+                Worst_NoteKey());
     Unload_LinksMenu();
     Global_Timers = nullptr;
 }

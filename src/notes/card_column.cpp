@@ -65,11 +65,9 @@ void CardColumn::Show_Notes(std::vector<int> notes, Scroll scroll) {
 }
 
 void CardColumn::Guess_Heights() {
-    std::vector<int> guesses;
-    guesses.reserve(rows.size());
-    for (const int index : rows)
-        guesses.push_back(Gap + NoteCard::Guessed_Height(
-                                    Global_Notes[static_cast<std::size_t>(index)], Card_Width()));
+    std::vector<int> guesses = NoteCard::Guessed_Heights(rows, Card_Width());
+    for (int& height : guesses)
+        height += Gap;
     heights.Reset(guesses);
 }
 

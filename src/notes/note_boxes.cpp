@@ -15,8 +15,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TextMargin = 3;           // around the text of a box
-constexpr qsizetype GuessedText = 4000; // of a longer text the rest counts by its length
+constexpr int TextMargin = 3;                // around the text of a box
+constexpr qsizetype GuessedText = 4000;      // of a longer text the rest counts by its length
+constexpr qsizetype EndlessWord = 4000;      // letters without a place to break the line
+constexpr char16_t FirstIdeographs = 0x2E80; // lines break between those as well
+
+bool Has_EndlessWord(const QString& text) {
+    qsizetype letters = 0;
+    for (const QChar letter : text) {
+        const bool breaks = letter.isSpace() || letter == u'-' || letter >= FirstIdeographs;
+        letters = breaks ? 0 : letters + 1;
+        if (letters > EndlessWord)
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -46,17 +59,29 @@ NoteTextBox::NoteTextBox(QWidget* parent) : MemoField(parent) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::ClickFocus);
     setTabChangesFocus(true);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    Choose_Wrapping({});
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAccessibleName(u"Text"_s);
     Set_Limit(Fits_Note);
-    connect(this, &QPlainTextEdit::textChanged, this, &NoteTextBox::Edited);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        Choose_Wrapping(document()->toRawText());
+        Q_EMIT Edited();
+    });
 }
 
 void NoteTextBox::Show_Text(const QString& text) {
     const QSignalBlocker silent(this);
+    Choose_Wrapping(text);
     setPlainText(text);
+}
+
+// The toolkit looks for the end of a word again for each line that the word fills.
+void NoteTextBox::Choose_Wrapping(const QString& text) {
+    const auto mode = Has_EndlessWord(text) ? QTextOption::WrapAnywhere
+                                            : QTextOption::WrapAtWordBoundaryOrAnywhere;
+    if (wordWrapMode() != mode)
+        setWordWrapMode(mode);
 }
 
 int NoteTextBox::Needed_Height() const {
@@ -68,22 +93,25 @@ int NoteTextBox::Needed_Height() const {
     return static_cast<int>(height + 0.99) + TextMargin;
 }
 
-int NoteTextBox::Guessed_Height(const QString& text, int width) {
+NoteTextBox::HeightGuess::HeightGuess(int width) {
     const QFontMetrics metrics(Small_Font());
-    const int room = width - 2 * TextMargin;
-    const qsizetype inLine = std::max(room / std::max(metrics.averageCharWidth(), 1), 1);
+    inLine = std::max((width - 2 * TextMargin) / std::max(metrics.averageCharWidth(), 1), 1);
+    lineHeight = metrics.lineSpacing();
+}
+
+int NoteTextBox::HeightGuess::Height_Of(const QString& text) const {
     const qsizetype scanned = std::min(text.size(), GuessedText);
     qsizetype lines = 1;
-    qsizetype column = 0;
-    for (qsizetype at = 0; at < scanned; ++at) {
-        const bool ends = text[at] == u'\n';
-        const bool wraps = !ends && ++column > inLine;
-        lines += ends || wraps ? 1 : 0;
-        column = ends ? 0 : (wraps ? 1 : column);
+    qsizetype start = 0; // of a line of the text
+    for (qsizetype end = 0; start <= scanned; start = end + 1, ++lines) {
+        end = text.indexOf(u'\n', start);
+        end = end < 0 || end > scanned ? scanned : end;
+        lines += std::max<qsizetype>(end - start - 1, 0) / inLine;
     }
+    --lines;
     if (scanned < text.size())
         lines = lines * text.size() / scanned;
-    return static_cast<int>(lines) * metrics.lineSpacing() + 2 * TextMargin;
+    return static_cast<int>(lines) * lineHeight + 2 * TextMargin;
 }
 
 // The column scrolls, not the box.

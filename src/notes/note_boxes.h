@@ -29,8 +29,18 @@ public:
     void Show_Text(const QString& text);
     // How high the box has to be at its present width, pixels.
     int Needed_Height() const;
-    // The same for a text that no box shows, roughly: it is not laid out.
-    static int Guessed_Height(const QString& text, int width);
+
+    // The same for texts that no box shows, roughly: they are not laid out.
+    class HeightGuess {
+    public:
+        // width: of the box, pixels.
+        explicit HeightGuess(int width);
+        int Height_Of(const QString& text) const;
+
+    private:
+        qsizetype inLine; // letters
+        int lineHeight;   // pixels
+    };
 
 Q_SIGNALS:
     void Edited(); // by the user
@@ -41,4 +51,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void Choose_Wrapping(const QString& text);
 };

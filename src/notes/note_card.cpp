@@ -106,8 +106,14 @@ int NoteCard::Lay_Out(int width) {
     return textHeight + BesideText;
 }
 
-int NoteCard::Guessed_Height(const NoteRec& note, int width) {
-    return NoteTextBox::Guessed_Height(note.Text, width - 2 * (Margin + FrameWidth)) + BesideText;
+std::vector<int> NoteCard::Guessed_Heights(const std::vector<int>& notes, int width) {
+    const NoteTextBox::HeightGuess guess(width - 2 * (Margin + FrameWidth));
+    std::vector<int> heights;
+    heights.reserve(notes.size());
+    for (const int index : notes)
+        heights.push_back(guess.Height_Of(Global_Notes[static_cast<std::size_t>(index)].Text) +
+                          BesideText);
+    return heights;
 }
 
 QWidget* NoteCard::Field(int number) const {

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class NoteLink;
 class NoteTextBox;
 class NoteTitleBox;
@@ -25,8 +27,8 @@ public:
     void Set_Marks(bool selected, bool underMouse);
     // Lays the card out at its width and returns the height it needs, pixels.
     int Lay_Out(int width);
-    // Roughly that height, for a note that no card shows.
-    static int Guessed_Height(const NoteRec& note, int width);
+    // Roughly the heights of the cards of notes that no card shows.
+    static std::vector<int> Guessed_Heights(const std::vector<int>& notes, int width);
 
     // Its fields in the order of the Tab key.
     static constexpr int FieldCount = 4;
