@@ -1,6 +1,7 @@
 // The forms of the links menu: how they are built, shown, hidden and opened one from the other.
 #include "links/menu/links_menu_v2.h"
 
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
@@ -49,6 +50,7 @@ void LinksMenuV2::Build_Window() {
     Install_MenuAccessibility();
     setWindowTitle(u"My Links"_s);
     setAccessibleName(u"My Links"_s);
+    Set_HelpTopic(*this, help_page::Links);
     setWindowIcon(Load_Icon(IconName::Program));
     setFont(Small_Font());
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -98,6 +100,9 @@ LinksMenuV2& LinksMenuV2::Root() {
 void LinksMenuV2::ShowForm() {
     if (Program_Is_Ending())
         return;
+    // One that is called back while it fades has been left: the mouse counts as new on its row.
+    Select_Row(NoMenuRow);
+    hoveredCategory = selectedRow = pressedRow = NoMenuRow;
     open = onView = true;
     screenRect = Bounds_Of(geometry());
     shownAt.reset();

@@ -182,11 +182,14 @@ TEST_F(LinksMenu, With_fades_a_child_goes_slowly_and_can_be_called_back) {
     Click(root, 0);
     LinksMenuV2* child = root->Child_Form();
     Fade(700);
+    Move_To(child, 0);
     Move_To(root, 2);
     EXPECT_TRUE(child->isVisible() && !child->Is_Open());
     EXPECT_TRUE(Global_Transparency().Is_FadingOut(child));
     Click(root, 0);
     EXPECT_TRUE(child->Is_Open() && !Global_Transparency().Is_FadingOut(child));
+    Move_To(child, 0); // the row it had before: its category opens again
+    EXPECT_EQ(Wait_ForChild(child)->Caption(0), u"Deep"_s);
     Move_To(root, 2);
     Fade(700);
     EXPECT_FALSE(child->isVisible());
