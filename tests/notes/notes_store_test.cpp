@@ -1,8 +1,5 @@
 #include "notes_fixture.h"
 
-#include <map>
-#include <random>
-
 using namespace Qt::StringLiterals;
 using namespace std::string_literals;
 
@@ -56,7 +53,6 @@ TEST_F(NotesStore, A_file_broken_anywhere_is_refused_and_kept_aside) {
     const std::size_t last = 58;
     const Case cases[] = {{"another magic", 0, "n", NotesWrongHeader},
                           {"an unknown version", 13, "000", NotesUnknownVersion},
-                          {"two notes told, one there", last, "\1"s, NotesDamaged},
                           {"no table is that long", last, "\xFF\xFF\xFF\x7F"s, NotesDamaged},
                           {"a last index below none", last, "\xFE\xFF\xFF\xFF"s, NotesDamaged},
                           {"a title past the end", last + 6, "\xFF\xFF"s, NotesDamaged}};
@@ -117,56 +113,21 @@ TEST_F(NotesStore, Saving_moves_the_last_notes_into_the_gaps) {
     EXPECT_EQ(order, u"ebd"_s);
 }
 
-// The second model ties each note to the name of its category and knows nothing of indices.
-TEST_F(NotesStore, Any_sequence_of_changes_agrees_with_a_plain_second_model) {
-    std::mt19937 random(7);
-    std::vector<QString> names;
-    std::map<QString, QString> homes;
-    for (int step = 0; step < 6000; ++step) {
-        const QString name = QString::number(step);
-        const auto kind = random() % 12;
-        const auto from = random() % (names.size() + 1); // one past the last is none
-        const auto to = random() % (names.size() + 1);
-        const auto notes = Notes_OfCategory(static_cast<int>(from));
-        const int note = notes.empty() ? NoNote : notes[random() % notes.size()];
-        if (kind < 2) {
-            EXPECT_EQ(Add_NoteCategory(name) == NoCategory, names.size() == 18);
-            if (names.size() < 18)
-                names.push_back(name);
-        } else if (kind == 2) {
-            Delete_NoteCategory(static_cast<int>(from));
-            if (from < names.size()) {
-                std::erase_if(homes, [&](const auto& home) { return home.second == names[from]; });
-                names.erase(names.begin() + static_cast<std::ptrdiff_t>(from));
-            }
-        } else if (kind < 8) {
-            const int added = Add_Note(static_cast<int>(from), Read_Moment());
-            ASSERT_EQ(added != NoNote, from < names.size());
-            if (added != NoNote)
-                homes[Note(added).Title = name] = names[from];
-        } else if (kind < 11 && note != NoNote && to < names.size()) {
-            homes[Note(note).Title] = names[to];
-            Move_Note(note, static_cast<int>(to));
-        } else if (note != NoNote) {
-            homes.erase(Note(note).Title);
-            Delete_Note(note);
-        }
-        if (step % 500 == 499) {
-            ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
-            Init_Notes();
-            ASSERT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
-        }
-        std::map<QString, QString> stored;
-        for (std::size_t category = 0; category < names.size(); ++category) {
-            const auto inside = Notes_OfCategory(static_cast<int>(category));
-            ASSERT_EQ(static_cast<std::size_t>(Count_Notes()[category]), inside.size());
-            for (const int index : inside)
-                stored[Note(index).Title] = Global_NoteCategories[category];
-        }
-        ASSERT_EQ(stored, homes) << step;
-        ASSERT_EQ(static_cast<std::size_t>(Used_Notes()), homes.size());
-        ASSERT_EQ(static_cast<std::size_t>(Note_Categories()), names.size());
-    }
+TEST_F(NotesStore, A_deleted_category_takes_its_notes_and_the_others_keep_theirs) {
+    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s})
+        Add_NoteCategory(name);
+    for (const int category : {2, 1, 0, 2, 1})
+        Note(Add_Note(category, Read_Moment())).Title =
+            Global_NoteCategories[std::size_t(category)];
+    Move_Note(0, 1);
+    Delete_NoteCategory(1);
+    Delete_NoteCategory(5);
+    EXPECT_EQ(Note_Categories(), 2);
+    EXPECT_EQ(Notes_OfCategory(0), std::vector<int>{2});
+    EXPECT_EQ(Notes_OfCategory(1), std::vector<int>{3});
+    EXPECT_EQ(Used_Notes(), 2);
+    EXPECT_EQ(Add_Note(1, Read_Moment()), 0); // the first gap
+    EXPECT_EQ(Add_Note(2, Read_Moment()), NoNote);
 }
 
 } // namespace

@@ -135,9 +135,10 @@ TEST_F(MainFormTest, Painting_puts_it_on_top_but_not_again_and_again) {
 }
 
 TEST_F(MainFormTest, The_presence_of_the_mouse_is_noted) {
-    for (QWidget* over :
-         {static_cast<QWidget*>(&form), static_cast<QWidget*>(form.Picture1),
-          static_cast<QWidget*>(form.Label1), static_cast<QWidget*>(form.wbButton1)}) {
+    for (const auto command : {ToolbarCommand::Open_LinksMenu, ToolbarCommand::Toggle_Textbox})
+        commands.Connect(command, [] {});
+    for (QWidget* over : std::initializer_list<QWidget*>{
+             &form, form.Picture1, form.Label1, form.wbButton1, form.wbButton2, form.wbButton4}) {
         clock.Advance(100);
         QTest::mouseMove(over, {5, 6});
         QTest::mouseMove(over, {6, 6});

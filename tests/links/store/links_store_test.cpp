@@ -112,22 +112,6 @@ TEST_F(LinksStore, A_broken_file_changes_nothing_and_is_kept_at_the_next_save) {
     EXPECT_FALSE(Save_Links_File(file)); // what could not be read is not written over
 }
 
-TEST_F(LinksStore, Texts_come_back_whole_or_are_not_stored_at_all) {
-    const QString longest(65535, u'\u00E9'); // one byte each in the code page
-    const QString outside = u"\u0416\u4E2D \U0001F517"_s;
-    Global_LinkArray = {{u"0"_s + longest.mid(1), longest, longest, 255},
-                        {u"1"_s + outside, outside, outside, 1}};
-    const std::vector<LinkRec> rows = Global_LinkArray;
-    const std::string bytes = Saved();
-    EXPECT_EQ(bytes.substr(20, 4), "\xFF\xFF"s + "0\xE9");
-    Global_LinkArray.clear();
-    EXPECT_EQ(Load(bytes), 0);
-    EXPECT_EQ(Global_LinkArray, rows);
-    Global_LinkArray[0].URL += u'x';
-    EXPECT_FALSE(Save_Links_File(file));
-    EXPECT_EQ(system.files.Read(file), bytes);
-}
-
 TEST_F(LinksStore, The_tree_takes_any_list) {
     const struct {
         const char* Name;
@@ -160,21 +144,6 @@ TEST_F(LinksStore, The_tree_takes_any_list) {
     std::uint8_t size = 0;
     LinksData().Get_LinkData(0, url, name, description, visited, size);
     EXPECT_EQ(url + name + description, u"- Error - - Error - - Error - "_s);
-}
-
-TEST_F(LinksStore, The_programs_own_commands_stand_behind_the_users_rows) {
-    int told = 0;
-    On_LinksTree_Changed([&told] { ++told; });
-    Build_Default_Links();
-    Build_Program_Links();
-    Load_Global_LinksArray();
-    EXPECT_EQ(told, 1);
-    EXPECT_EQ(Global_LinkArray.size(), 7U);
-    const QString tree = Text_Of(*Global_LinksRoot);
-    EXPECT_TRUE(tree.contains(u"Example Category#0("_s)) << tree.toStdString();
-    EXPECT_TRUE(tree.endsWith(u"help:about, -, config:Reminder_Edit, config:Notes_Editor, "
-                              "config:Links_Edit, -, config:Program_Setup, config:Setup_Wizard)"_s))
-        << tree.toStdString();
 }
 
 } // namespace
