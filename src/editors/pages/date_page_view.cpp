@@ -31,7 +31,7 @@ constexpr std::array<QRect, 5> FramePlaces{{{Left, 8, ColumnWidth, 44},     // e
                                             {Left, 313, ColumnWidth, 51},   // every x days
                                             {Right, 8, ColumnWidth, 214},   // exact date
                                             {Left, 276, ColumnWidth, 31}}}; // day of the month
-constexpr QRect StartFrame{Right, 228, ColumnWidth, 194};
+constexpr QRect StartFrame{Right, 228, ColumnWidth, 209};
 
 constexpr std::array<const char16_t*, 7> WeekdayNames{
     u"Monday", u"Tuesday", u"Wednesday", u"Thursday", u"Friday", u"Saturday", u"Sunday"};
@@ -195,6 +195,8 @@ void DatePage::View::Build_Start() {
     Add_DateRow(StartField, StartOn, group, StartFrame.top() + 61);
     Add_WeekOptions(StartThis, StartFrame.top() + 90);
     Add_Weekdays(StartMonday, group, left, StartFrame.top() + 108);
+    pages::Add_Caption(u"Runs from the day after on, not on that day."_s, left,
+                       StartFrame.top() + 191, &page);
     Add_TooltipPicture(6, StartFrame, &page);
 }
 

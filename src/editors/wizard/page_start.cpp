@@ -30,6 +30,8 @@ WizardStartPage::WizardStartPage(WizardState& wizardState, QWidget* parent)
     connect(wbButton5, &wbButton::Click, this, &WizardPageView::CalendarAsked);
     sentence = Add_Text(this, StartDate_Sentence({}), TextLeft, FieldTop + 64, Width - TextLeft);
     sentence->setObjectName(u"Label12"_s);
+    Add_Text(this, u"It comes from the day after on; on the start date itself it stays quiet."_s,
+             TextLeft, FieldTop + 84, Width - TextLeft, TextLook::Hint);
     connect(Text8, &QLineEdit::textChanged, this, [this](const QString& text) {
         state.Text8 = text;
         sentence->setText(StartDate_Sentence(text));
