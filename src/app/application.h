@@ -2,6 +2,8 @@
 // saves in a fixed order.
 #pragma once
 
+#include "accessories/help/help_keys.h"
+#include "controls/file_drops.h"
 #include "controls/timers.h"
 #include "platform/session.h"
 #include "toolbar/toolbar_commands.h"
@@ -71,6 +73,8 @@ private:
     // True for the first call: the program ends now.
     bool Begin_Ending();
 
+    FileDrops fileDrops;
+    HelpKeys helpKeys;
     QString programFolder;
     Timers timers;
     ToolbarCommands commands;

@@ -1,5 +1,6 @@
 #include "delivery/frm_missed_reminders.h"
 
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/palette.h"
@@ -47,6 +48,7 @@ QString Row_Text(const QString& text) {
 
 frmMissedReminders::frmMissedReminders() {
     setWindowTitle(u"Missed Reminders"_s);
+    Set_HelpTopic(*this, help_page::Toolbar);
     setWindowIcon(Load_Icon(IconName::Program));
     setAttribute(Qt::WA_QuitOnClose, false);
     setPalette(List_Palette());
@@ -60,6 +62,9 @@ frmMissedReminders::frmMissedReminders() {
     Label1 = new QLabel(u"Double click to view"_s, this);
     Label1->setFont(Small_Font());
     Label1->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    helpHint = new QLabel(help_page::Hint, this);
+    helpHint->setFont(Small_Font());
+    helpHint->adjustSize();
     connect(List1, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { Deliver_Row(List1->row(item)); });
 }
@@ -103,6 +108,9 @@ void frmMissedReminders::resizeEvent(QResizeEvent*) {
         return;
     const int labelTop = height() - FromEdge - SmallLineHeight;
     Label1->setGeometry(0, labelTop, width(), SmallLineHeight);
+    helpHint->move(width() - helpHint->width() - 2 * FromEdge, labelTop);
+    helpHint->setVisible(width() >
+                         Label1->sizeHint().width() + 2 * helpHint->width() + 8 * FromEdge);
     List1->setGeometry(0, 0, width(), labelTop - FromEdge);
 }
 

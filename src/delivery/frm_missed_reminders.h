@@ -29,5 +29,6 @@ private:
 
     std::vector<MissedEntry> entries; // in the order of the list
     QListWidget* List1 = nullptr;
+    QLabel* helpHint = nullptr;
     QLabel* Label1 = nullptr;
 };

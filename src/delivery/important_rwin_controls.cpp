@@ -1,4 +1,5 @@
 // The controls of the reminder window, and how it shows a reminder.
+#include "controls/help_topic.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/text_fields.h"
@@ -61,6 +62,7 @@ QPlainTextEdit* Make_TextBox(QWidget* parent) {
 frmImportantRWin::frmImportantRWin() : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
     setWindowTitle(u"Reminder"_s);
     setAccessibleName(u"Reminder"_s);
+    Set_HelpTopic(*this, help_page::Toolbar);
     setAttribute(Qt::WA_OpaquePaintEvent);
     // The user may be typing somewhere else.
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -2,6 +2,7 @@
 #include "notes/frm_notes_editor.h"
 
 #include "accessories/help/help.h"
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
@@ -37,7 +38,6 @@ constexpr int CategoriesTip = 58;
 constexpr int NotesTip = 59;
 constexpr int StatusTip = 60;
 constexpr int TipSize = 16; // pixels, of the help pictures
-const QString HelpPage = u"notes_Notes_Archive_Editor.html"_s;
 
 QPointer<frmNotesEditor> notesEditor;
 int lastCategory = 0; // where the window was closed
@@ -59,6 +59,7 @@ void Set_Icon(wbButton* button, IconName name) {
 
 frmNotesEditor::frmNotesEditor() {
     setWindowTitle(u"Notes"_s);
+    Set_HelpTopic(*this, help_page::Notes);
     setMinimumSize(LeastSize);
     Build_Categories();
     Build_Notes();
@@ -116,7 +117,7 @@ void frmNotesEditor::Build_Status() {
     Label4 = Add_Label(u"Last Modified:"_s, ColumnLeft, 0);
     Label5 = Add_Label(u"At: "_s, 0, 0);
     statusHelp = new TooltipPicture(StatusTip, 0, 0, this);
-    wbButton14 = Make_Button(u"Help on the notes archive"_s);
+    wbButton14 = Make_Button(u"Help on the notes archive (F1)"_s);
     wbButton14->Set_Caption(u"Help"_s);
 }
 
@@ -143,7 +144,7 @@ void frmNotesEditor::Connect_Controls() {
     connect(wbButton3, &wbButton::Click, this, &frmNotesEditor::Rebuild_Cards);
     connect(wbButton14, &wbButton::Click, this, [this] {
         Store_Edits();
-        Show_HelpPage(HelpPage);
+        Show_HelpPage(help_page::Notes);
     });
 }
 
@@ -200,7 +201,7 @@ void Show_NotesEditor() {
         return;
     if (notesEditor == nullptr || notesEditor->Is_Unloading())
         notesEditor = new frmNotesEditor;
-    Update_HelpTopic(HelpPage);
+    Update_HelpTopic(help_page::Notes);
     notesEditor->Present();
 }
 

@@ -1,5 +1,6 @@
 #include "toolbar/main_form.h"
 
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/program_end.h"
 #include "controls/timers.h"
@@ -42,6 +43,7 @@ MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActio
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), commands(toolbarCommands),
       container(std::move(messageActions)) {
     setWindowTitle(u"Tockly Toolbar"_s);
+    Set_HelpTopic(*this, help_page::Toolbar);
     setMinimumSize(1, 1);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_ShowWithoutActivating);

@@ -1,4 +1,5 @@
 // The buttons of the strip and what they do.
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/unload_queue.h"
 #include "toolbar/main_form.h"
@@ -51,7 +52,8 @@ void MainForm::Build_Buttons() {
     wbButton6 = Picture_Button(this, IconName::ViewNotes, u"View notes"_s);
     wbButton4 = Picture_Button(this, IconName::OpenTextbox, u"Open Textbox"_s);
 
-    const QString hint = u"Click and hold down the mouse button to move the toolbar"_s;
+    const QString hint =
+        u"Click and hold down the mouse button to move the toolbar\n"_s + help_page::Hint;
     Picture1 = new MessageSurface(this);
     Picture1->setToolTip(hint);
     Picture1->installEventFilter(this);

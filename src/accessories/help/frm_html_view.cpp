@@ -4,10 +4,14 @@
 #include "accessories/help/help_browser.h"
 #include "accessories/help/help_rules.h"
 #include "controls/chk_box.h"
+#include "controls/help_topic.h"
 #include "platform/window.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QStyle>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +20,7 @@ namespace {
 constexpr int DesignWidth = 293;
 constexpr int DesignHeight = 437;
 constexpr int LookInterval = 200; // ms between two looks at the toolbar's place
+constexpr int AskedTime = 2000;   // ms that the focus may take to get here
 constexpr int BelowBrowser = 20;
 constexpr int CheckHeight = 16;
 constexpr int CheckPastRight = 4; // the box is wider than its text, and ends outside the window
@@ -24,6 +29,7 @@ constexpr int CheckPastRight = 4; // the box is wider than its text, and ends ou
 
 frmHTMLview::frmHTMLview() : Form(nullptr, Qt::Tool) {
     setWindowTitle(u"Help"_s);
+    Set_HelpTopic(*this, help_page::Contents);
     WebBrowser1 = new HelpBrowser(this);
     Check1 = new ChkBox(u"Auto Update topic"_s, 0, 0, this);
     Check1->setToolTip(u"Show the page of the window that you are working in"_s);
@@ -42,6 +48,25 @@ frmHTMLview::frmHTMLview() : Form(nullptr, Qt::Tool) {
 void frmHTMLview::SetHTMLFile(const QString& path) {
     WebBrowser1->Set_Folder(Help_Folder());
     WebBrowser1->Show_Page(path);
+}
+
+QString frmHTMLview::HTMLFile() const {
+    return WebBrowser1->source().toLocalFile();
+}
+
+void frmHTMLview::Ask_For(const QString& path) {
+    asked = isActiveWindow() ? QString() : path;
+    QTimer::singleShot(AskedTime, this, [this] { asked.clear(); });
+    SetHTMLFile(path);
+}
+
+void frmHTMLview::changeEvent(QEvent* event) {
+    Form::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || asked.isEmpty())
+        return;
+    const QString path = std::exchange(asked, QString());
+    if (path != HTMLFile())
+        SetHTMLFile(path);
 }
 
 void frmHTMLview::SetHelpPos() {

@@ -27,7 +27,10 @@ QString Help_Folder() {
 }
 
 void Update_HelpTopic(const QString& page) {
-    if (Global_HelpLoaded && Global_HelpAutoUpdate && viewer != nullptr)
+    if (!Global_HelpLoaded || !Global_HelpAutoUpdate || viewer == nullptr)
+        return;
+    // The page on view keeps the place that was read.
+    if (viewer->HTMLFile() != Page_Path(page))
         viewer->SetHTMLFile(Page_Path(page));
 }
 
@@ -36,7 +39,7 @@ void Show_HelpPage(const QString& page) {
         return;
     if (viewer == nullptr || viewer->Is_Unloading())
         viewer = new frmHTMLview;
-    viewer->SetHTMLFile(Page_Path(page));
+    viewer->Ask_For(Page_Path(page));
     viewer->SetHelpPos();
     viewer->EnableTimer();
     viewer->Present();

@@ -6,7 +6,10 @@
 #include "platform/shell.h"
 
 #include <QFileInfo>
-#include <QImage>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +17,8 @@ namespace {
 
 constexpr int PageMargin = 8;
 constexpr int ListIndent = 16;
-constexpr int EmptyWidth = 250; // about that of the pages' pictures: stays flat when it is scaled
+constexpr int SmallestText = 8; // pixels
+constexpr int LargestText = 32;
 
 QByteArray Read_HelpFile(const QString& path) {
     const auto content = path.isEmpty() ? std::nullopt : platform::Files::Get().Read(path);
@@ -26,7 +30,7 @@ QByteArray Read_HelpFile(const QString& path) {
 QImage Picture_Of(const QByteArray& bytes) {
     QImage picture;
     if (!picture.loadFromData(bytes)) {
-        picture = QImage(EmptyWidth, 1, QImage::Format_ARGB32);
+        picture = QImage(1, 1, QImage::Format_ARGB32);
         picture.fill(Qt::transparent);
     }
     return picture;
@@ -65,15 +69,49 @@ void HelpBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
     if (Is_WebLink(url))
         platform::Shell::Get().Open(QString::fromLatin1(url.toEncoded()),
                                     platform::ShowState::Normal);
-    else if (Is_HelpAddress(folder, url))
+    else if (Is_HelpAddress(folder, url)) {
+        pictures.clear();
         QTextBrowser::doSetSource(url, type);
+    }
+}
+
+void HelpBrowser::wheelEvent(QWheelEvent* event) {
+    const int turn = event->angleDelta().y();
+    if (!event->modifiers().testFlag(Qt::ControlModifier) || turn == 0) {
+        QTextBrowser::wheelEvent(event);
+        return;
+    }
+    QFont text = font();
+    text.setPixelSize(
+        std::clamp(text.pixelSize() + (turn > 0 ? 1 : -1), SmallestText, LargestText));
+    setFont(text);
+    event->accept();
+}
+
+// The toolkit scales pictures by leaving out pixels, which takes letters to pieces.
+QImage HelpBrowser::Fitted(const QImage& picture) const {
+    const int room = width() - verticalScrollBar()->sizeHint().width() - 2 * PageMargin;
+    if (picture.width() <= room || room < 1)
+        return picture;
+    QImage fitted =
+        picture.scaledToWidth(qRound(room * devicePixelRatioF()), Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(devicePixelRatioF());
+    return fitted;
+}
+
+void HelpBrowser::resizeEvent(QResizeEvent* event) {
+    for (const auto& [url, picture] : pictures)
+        document()->addResource(QTextDocument::ImageResource, url, Fitted(picture));
+    if (!pictures.empty())
+        document()->markContentsDirty(0, document()->characterCount());
+    QTextBrowser::resizeEvent(event);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     const QUrl url = source().isEmpty() ? name : source().resolved(name);
     const QString file = Help_File(folder, url);
     if (type == QTextDocument::ImageResource)
-        return Picture_Of(Read_HelpFile(file));
+        return Fitted(pictures[url] = Picture_Of(Read_HelpFile(file)));
     if (type == QTextDocument::HtmlResource && !Is_HelpPage(folder, url))
         return Missing_Page(url.fileName());
     return QString::fromUtf8(Read_HelpFile(file));

@@ -3,6 +3,7 @@
 #include "accessories/help/help.h"
 #include "accessories/setup/setup.h"
 #include "controls/chk_box.h"
+#include "controls/help_topic.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
 #include "controls/tooltip_picture.h"
@@ -10,7 +11,6 @@
 #include "platform/dialogs.h"
 #include "settings/global_settings.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -50,8 +50,6 @@ enum SetupTip {
     RunTip
 };
 
-const char16_t SetupPage[] = u"tk_program_setup.html";
-
 QPointer<frmProgramSetup> setupWindow;
 
 } // namespace
@@ -64,7 +62,8 @@ frmProgramSetup::frmProgramSetup() {
     Add_Rest();
     Show_View(Load_Settings_To_View());
     p2ChkImage[Global_IsWinXP ? 0 : 2]->setFocus();
-    Update_HelpTopic(QString::fromUtf16(SetupPage));
+    Set_HelpTopic(*this, help_page::Setup);
+    Update_HelpTopic(help_page::Setup);
 }
 
 QLabel* frmProgramSetup::Add_Heading(int index, const QString& text, int top) {
@@ -145,6 +144,7 @@ void frmProgramSetup::Add_Rest() {
     new TooltipPicture(RunTip, PictureLeft, RestTop + 30, this);
 
     const int top = FormHeight - Margin - ButtonHeight;
+    Add_Label(help_page::Hint, Margin, top + 6);
     wbButton3 = new wbButton(this);
     wbButton3->setGeometry(FormWidth - 2 * (Margin + ButtonWidth) + 2, top, ButtonWidth,
                            ButtonHeight);
@@ -195,13 +195,6 @@ void frmProgramSetup::wbButton3_Click() {
     field->setFocus();
     field->selectAll();
     platform::Dialogs::Get().Message(refusal->Message, platform::BoxStyle::Exclamation);
-}
-
-void frmProgramSetup::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1)
-        Show_HelpPage(QString::fromUtf16(SetupPage));
-    else
-        Form::keyPressEvent(event);
 }
 
 void Show_ProgramSetup() {

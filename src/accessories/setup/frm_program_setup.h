@@ -20,9 +20,6 @@ public:
     // wrong.
     void wbButton3_Click();
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
     void Add_Effects();
     void Add_AutoHide();

@@ -1,9 +1,9 @@
 // The wizard as its user meets it: pages, the toolbar's place, the hide test and the end.
 #include "accessories/setup/frm_wizard.h"
 
-#include "accessories/help/help.h"
 #include "accessories/setup/setup.h"
 #include "controls/chk_box.h"
+#include "controls/help_topic.h"
 #include "controls/program_end.h"
 #include "controls/timers.h"
 #include "controls/toolbar.h"
@@ -11,7 +11,7 @@
 #include "platform/dialogs.h"
 #include "settings/global_settings.h"
 
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -34,6 +34,7 @@ void Guard_Toolbar() {
 
 frmWizard::frmWizard() {
     setWindowTitle(u"Setup Wizard"_s);
+    Set_HelpTopic(*this, help_page::Toolbar);
     Take_Toolbar();
     Add_Frame();
     Add_Steps();
@@ -157,13 +158,6 @@ bool frmWizard::Query_Unload(UnloadMode) {
     if (!message.isEmpty())
         platform::Dialogs::Get().Message(message, platform::BoxStyle::Exclamation);
     return true;
-}
-
-void frmWizard::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1)
-        Show_HelpPage(u"toolbar.html"_s);
-    else
-        Form::keyPressEvent(event);
 }
 
 // The texts below an option belong to it.

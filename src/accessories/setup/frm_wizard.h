@@ -22,7 +22,6 @@ public:
 
 protected:
     bool Query_Unload(UnloadMode mode) override;
-    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

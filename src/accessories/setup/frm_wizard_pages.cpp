@@ -1,6 +1,7 @@
 // What stands on the wizard's pages, and where.
 #include "accessories/setup/frm_wizard.h"
 #include "controls/chk_box.h"
+#include "controls/help_topic.h"
 #include "controls/metrics.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
@@ -88,6 +89,7 @@ void frmWizard::Add_Steps() {
 }
 
 void frmWizard::Add_Buttons() {
+    Add_Label(help_page::Hint, Margin, FooterTop + 14);
     for (std::size_t i = 0; i < wbButton3.size(); ++i) {
         const int fromRight = i == 0 ? 2 * ButtonWidth + 6 : ButtonWidth;
         wbButton3[i] = new wbButton(this);

@@ -1,6 +1,7 @@
 #include "accessories/textbox/frm_textbox.h"
 
 #include "accessories/textbox/textbox_rules.h"
+#include "controls/help_topic.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
@@ -56,6 +57,7 @@ TextboxText::TextboxText(QWidget* parent) : MemoField(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setAccessibleName(u"Textbox"_s);
+    setPlaceholderText(help_page::Hint);
     setPlainText(u"This textbox will stay on top of other windows\n"
                  "Click to change the text\n"_s);
     connect(this, &MemoField::textChanged, this, &TextboxText::Check_ScrollBar);
@@ -107,6 +109,7 @@ void TextboxText::mousePressEvent(QMouseEvent* event) {
 
 frmTextbox::frmTextbox() : Form(nullptr, Qt::Tool) {
     setWindowTitle(u"Textbox"_s);
+    Set_HelpTopic(*this, help_page::Toolbar);
     setMinimumSize(1, 1);
     Set_BackColor(palette::Message_Back);
     QPalette colors = palette();

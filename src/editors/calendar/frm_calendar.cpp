@@ -2,6 +2,7 @@
 
 #include "controls/combo_box.h"
 #include "controls/combo_name.h"
+#include "controls/help_topic.h"
 #include "controls/program_end.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
@@ -67,7 +68,8 @@ void frmCalendar::Build_Controls() {
     const int buttonTop = GridTop + DaysLabel->height() + 6;
     wbButton1->setGeometry(Margin, buttonTop, DaysLabel->width(), ButtonHeight);
     wbButton1->Set_Caption(u"Ok"_s);
-    setFixedSize(DaysLabel->width() + 2 * Margin, buttonTop + ButtonHeight + Margin);
+    const QLabel* hint = Add_Label(help_page::Hint, Margin, buttonTop + ButtonHeight + 4);
+    setFixedSize(DaysLabel->width() + 2 * Margin, hint->geometry().bottom() + 4);
 
     connect(Combo1, &QComboBox::activated, this, &frmCalendar::Combo_Changed);
     connect(Combo2, &QComboBox::activated, this, &frmCalendar::Combo_Changed);

@@ -1,6 +1,7 @@
 #include "editors/list/frm_re_function_edit.h"
 
 #include "controls/chk_box.h"
+#include "controls/help_topic.h"
 #include "controls/program_end.h"
 #include "controls/text_fields.h"
 #include "controls/tooltip_picture.h"
@@ -45,6 +46,7 @@ frmRE_FunctionEdit::frmRE_FunctionEdit(QWidget* owner) : Form(owner, Qt::Dialog)
     Add_Heading(u" Function Setup"_s, 8, 8, this);
     new TooltipPicture(Tip_Function, FormWidth - 26, 8, this);
     Build_Fields();
+    Add_Label(help_page::Hint, 12, FormHeight - 26);
     wbButton* ok = Add_Button(u"Ok"_s, {FormWidth - 172, FormHeight - 32, 78, 24}, this);
     wbButton* cancel = Add_Button(u"Cancel"_s, {FormWidth - 86, FormHeight - 32, 78, 24}, this);
     connect(ok, &wbButton::Click, this, &frmRE_FunctionEdit::wbButton1_Click);

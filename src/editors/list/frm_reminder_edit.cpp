@@ -4,6 +4,7 @@
 #include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/cool_tab.h"
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
@@ -58,13 +59,10 @@ int Screen_Loss() {
 
 } // namespace
 
-QString frmReminderEdit::HelpPage() {
-    return u"reminders_Reminders_Setup.html"_s;
-}
-
 frmReminderEdit::frmReminderEdit() : filter(FilterAll) {
     const int loss = Screen_Loss();
     setWindowTitle(u"Reminders"_s);
+    Set_HelpTopic(*this, help_page::Reminders);
     setFixedSize(ClientWidth, ClientHeight - loss);
     Build_List(ListHeight - loss);
     Build_Buttons(ListTop + ListHeight - loss + 6);
@@ -160,7 +158,7 @@ void frmReminderEdit::Build_Buttons(int top) {
          &frmReminderEdit::Paste_Click},
         {wbButton10, u"     Run"_s, u"Test the reminder"_s, IconName::RunItem, 208, top, 101,
          &frmReminderEdit::Test_Click},
-        {wbButton14, {}, u"Help"_s, IconName::Help, 208, below, 101, nullptr},
+        {wbButton14, {}, u"Help (F1)"_s, IconName::Help, 208, below, 101, nullptr},
     };
     for (const auto& row : rows) {
         auto* button = new wbButton(this);
@@ -178,7 +176,7 @@ void frmReminderEdit::Build_Buttons(int top) {
             connect(button, &wbButton::Click, this, row.Action);
         row.Button = button;
     }
-    connect(wbButton14, &wbButton::Click, this, [] { Show_HelpPage(HelpPage()); });
+    connect(wbButton14, &wbButton::Click, this, [] { Show_HelpPage(help_page::Reminders); });
 }
 
 void frmReminderEdit::Build_Pages() {

@@ -34,7 +34,6 @@ class frmReminderEdit : public Form, public EditHost {
 public:
     frmReminderEdit();
     ~frmReminderEdit() override;
-    static QString HelpPage();
 
     // Builds the list anew from the table.
     void UpdateReminderView();

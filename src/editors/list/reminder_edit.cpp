@@ -1,6 +1,7 @@
 #include "editors/list/reminder_edit.h"
 
 #include "accessories/help/help.h"
+#include "controls/help_topic.h"
 #include "editors/list/frm_reminder_edit.h"
 
 #include <QPointer>
@@ -18,7 +19,7 @@ void Show_ReminderEdit() {
         listWindow = new frmReminderEdit;
     else
         listWindow->Refresh_View();
-    Update_HelpTopic(frmReminderEdit::HelpPage());
+    Update_HelpTopic(help_page::Reminders);
     listWindow->Present();
 }
 

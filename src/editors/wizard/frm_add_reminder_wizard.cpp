@@ -1,6 +1,7 @@
 #include "editors/wizard/frm_add_reminder_wizard.h"
 
 #include "accessories/help/help.h"
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
@@ -44,14 +45,13 @@ constexpr int ButtonTop = 349;
 constexpr int NextWidth = 90;
 constexpr QSize TitlePicture(32, 32);
 
-const QString helpPage = u"reminders_Add_New_Reminder.html"_s;
-
 QPointer<frmAddReminderWizard> wizardWindow;
 
 } // namespace
 
 frmAddReminderWizard::frmAddReminderWizard() : state(New_WizardState(Read_Moment())) {
     setWindowTitle(u"Add new reminder"_s);
+    Set_HelpTopic(*this, help_page::NewReminder);
     setFixedSize(TwipsX_To_Pixels(FormWidth), TwipsY_To_Pixels(FormHeight));
     Sync_CategoriesFromReminders();
     QLabel* title = Add_Label(windowTitle(), PageLeft + TitlePicture.width() + 10, 16);
@@ -75,7 +75,7 @@ void frmAddReminderWizard::Load() {
     if (!alive || Is_Unloading() || Program_Is_Ending())
         return;
     Present();
-    Update_HelpTopic(helpPage);
+    Update_HelpTopic(help_page::NewReminder);
 }
 
 void frmAddReminderWizard::Build_SideList() {
@@ -104,6 +104,7 @@ void frmAddReminderWizard::Build_Pages() {
 }
 
 void frmAddReminderWizard::Build_Buttons() {
+    Add_Label(help_page::Hint, PageLeft, ButtonTop + 6);
     const int right = PageLeft + WizardPageView::Width;
     wbButton3[0] = Add_Button(this, u"wbButton3_0"_s, u"< Previous"_s,
                               {right - 2 * NextWidth - 6, ButtonTop, NextWidth, ButtonHeight});
@@ -230,9 +231,7 @@ void frmAddReminderWizard::On_Unload() {
 }
 
 void frmAddReminderWizard::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1)
-        Show_HelpPage(helpPage);
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         Next_Click();
     else
         Form::keyPressEvent(event);

@@ -3,6 +3,7 @@
 #include "accessories/help/help.h"
 #include "controls/chk_box.h"
 #include "controls/combo_box.h"
+#include "controls/help_topic.h"
 #include "controls/program_end.h"
 #include "controls/text_fields.h"
 #include "controls/wb_button.h"
@@ -14,7 +15,6 @@
 #include "platform/dialogs.h"
 
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -28,8 +28,6 @@ constexpr std::size_t FirstHour = 0;
 constexpr std::size_t FirstDay = 4;
 constexpr std::size_t DateBox = 6;
 
-const QString helpPage = u"reminders_Add_New_Reminder.html"_s;
-
 QPointer<frmQuickAddReminder> quickWindow;
 
 } // namespace
@@ -37,6 +35,7 @@ QPointer<frmQuickAddReminder> quickWindow;
 frmQuickAddReminder::frmQuickAddReminder()
     : pending(Make_PendingReminder(Read_Moment())), clock(*this, [] {}) {
     setWindowTitle(u"Add new reminder"_s);
+    Set_HelpTopic(*this, help_page::NewReminder);
     Build_Message();
     Build_Days();
     Build_Hours();
@@ -158,20 +157,13 @@ void frmQuickAddReminder::On_Unload() {
     clock.Unload();
 }
 
-void frmQuickAddReminder::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1)
-        Show_HelpPage(helpPage);
-    else
-        Form::keyPressEvent(event);
-}
-
 void Show_QuickAdd() {
     if (Program_Is_Ending())
         return;
     if (!quickWindow || quickWindow->Is_Unloading())
         quickWindow = new frmQuickAddReminder;
     quickWindow->Present();
-    Update_HelpTopic(helpPage);
+    Update_HelpTopic(help_page::NewReminder);
 }
 
 void Unload_QuickAdd() {

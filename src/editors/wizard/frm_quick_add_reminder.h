@@ -27,7 +27,6 @@ public:
 
 protected:
     void On_Unload() override;
-    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -1,6 +1,7 @@
 // What stands where in the dialog; pixels.
 #include "controls/chk_box.h"
 #include "controls/combo_box.h"
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/text_fields.h"
@@ -143,6 +144,7 @@ TimeField* frmQuickAddReminder::Add_TimeBox(const QString& name, const QRect& pl
 }
 
 void frmQuickAddReminder::Build_Buttons() {
+    Add_Label(help_page::Hint, Margin, ButtonTop - 17);
     wbButton* test = Add_Button(this, u"wbButton10"_s, u"Test the reminder"_s,
                                 {Margin, ButtonTop, 132, ButtonHeight});
     test->Set_ToolTipTextLabel(u"Displays the reminder as it is now"_s);

@@ -2,6 +2,7 @@
 
 #include "accessories/help/help.h"
 #include "controls/field_word.h"
+#include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
@@ -39,8 +40,6 @@ constexpr int PictureSize = 16;
 constexpr int TipList = 53;
 constexpr qsizetype ShownName = 500; // characters of a name or path in a question
 
-const QString HelpPage = u"lnk_LinksSetup.html"_s;
-
 QPointer<frmLinksEdit> linksWindow;
 
 bool Ask(const QString& text) {
@@ -52,6 +51,7 @@ bool Ask(const QString& text) {
 // All controls are made in the order of the Tab key.
 frmLinksEdit::frmLinksEdit() {
     setWindowTitle(u"'My Links' menu setup"_s);
+    Set_HelpTopic(*this, help_page::Links);
     setFixedSize(FormWidth, FormHeight);
     Build_List();
     panel = new PropertyPanel(this);
@@ -118,7 +118,7 @@ void frmLinksEdit::Build_Buttons() {
          &frmLinksEdit::wbButton10_Click},
         {wbButton14,
          {},
-         u"Help"_s,
+         u"Help (F1)"_s,
          IconName::Help,
          2,
          BottomTop - CommandsTop,
@@ -238,7 +238,7 @@ void frmLinksEdit::wbButton2_Click() {
 }
 
 void frmLinksEdit::Show_Help() {
-    Show_HelpPage(HelpPage);
+    Show_HelpPage(help_page::Links);
 }
 
 void frmLinksEdit::Browse() {
@@ -281,7 +281,6 @@ void frmLinksEdit::keyPressEvent(QKeyEvent* event) {
         Qt::KeyboardModifiers With;
         void (frmLinksEdit::*Command)();
     } keys[] = {
-        {Qt::Key_F1, Qt::NoModifier, &frmLinksEdit::Show_Help},
         {Qt::Key_Insert, Qt::NoModifier, &frmLinksEdit::wbButton8_Click},
         {Qt::Key_Z, Qt::ControlModifier, &frmLinksEdit::wbButton9_Click},
         {Qt::Key_Up, Qt::AltModifier, &frmLinksEdit::wbButton3_Click},
@@ -304,7 +303,7 @@ void Show_LinksEditor() {
         return;
     if (linksWindow == nullptr || linksWindow->Is_Unloading())
         linksWindow = new frmLinksEdit;
-    Update_HelpTopic(HelpPage);
+    Update_HelpTopic(help_page::Links);
     linksWindow->Present();
 }
 
