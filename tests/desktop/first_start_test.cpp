@@ -68,7 +68,7 @@ TEST_F(FirstStart, Everything_Leads_Somewhere_And_Is_Found_Again) {
         EXPECT_EQ(
             desktop.Property(Strip_Window(), u"_NET_FRAME_EXTENTS"_s).section(u'=', 1).remove(u' '),
             u"0,0,0,0"_s);
-        EXPECT_TRUE(Wait_Until([&] { return Line_Has_Text(); }, 5000)) << "no greeting";
+        EXPECT_TRUE(Wait_Until([&] { return Line_Has_Text(); })) << "no greeting";
         Through_The_Wizard();
         Open(u"Add new reminder"_s, "Add new reminder");
         Keys({u"Escape"_s});

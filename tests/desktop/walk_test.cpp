@@ -80,18 +80,23 @@ protected:
         ASSERT_TRUE(desktop.Wait_For_Window(Strip) || desktop.Wait_For_Window(Box));
     }
 
-    // Somewhere in a control, or in a window that screen readers are not told of.
+    // Controls, and windows that screen readers are not told of. Asked again after some steps only:
+    // what has gone since is a place as good as any.
+    void Look_Around() {
+        places.clear();
+        for (const Control& control : desktop.Controls()) {
+            places.push_back(control.place);
+            met.insert(control.role + u' ' + control.name);
+        }
+        const std::size_t controls = places.size();
+        for (const QString& window : desktop.Search({u"--class"_s, u"^tockly$"_s})) {
+            const QRect place = desktop.Geometry(window);
+            places.insert(places.end(), 1 + controls / 10, place);
+        }
+    }
     QPoint Somewhere() {
-        std::vector<QRect> places;
-        if (Any(3) > 0) {
-            for (const Control& control : desktop.Controls()) {
-                places.push_back(control.place);
-                met.insert(control.role + u' ' + control.name);
-            }
-        } else {
-            for (const QString& window : desktop.Search({u"--class"_s, u"^tockly$"_s})) {
-                places.push_back(desktop.Geometry(window));
-            }
+        if (places.empty() || steps.size() % 4 == 0) {
+            Look_Around();
         }
         const QRect place = places.empty() ? QRect(345, 0, 333, 20) : One_Of(places);
         return place.topLeft() +
@@ -149,8 +154,9 @@ protected:
         }
     }
     void Open_One() {
+        const QLatin1String button(One_Of(ToolbarButtons));
         for (const Control& control : desktop.Controls(Strip)) {
-            if (control.name == QLatin1String(ToolbarButtons[Any(5)])) {
+            if (control.name == button) {
                 return Do(Move_To(control.place.center()) + QStringList{u"click"_s, u"1"_s});
             }
         }
@@ -201,6 +207,7 @@ protected:
     std::mt19937 random;
     QStringList steps;
     QSet<QString> met;
+    std::vector<QRect> places;
     QProcess ground, owner;
 };
 
