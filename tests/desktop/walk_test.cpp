@@ -84,8 +84,12 @@ protected:
     // what has gone since is a place as good as any.
     void Look_Around() {
         places.clear();
+        fields.clear();
         for (const Control& control : desktop.Controls()) {
             places.push_back(control.place);
+            if (control.role == "text"_L1) {
+                fields.push_back(control.place);
+            }
             met.insert(control.role + u' ' + control.name);
         }
         const std::size_t controls = places.size();
@@ -98,7 +102,9 @@ protected:
         if (places.empty() || steps.size() % 4 == 0) {
             Look_Around();
         }
-        const QRect place = places.empty() ? QRect(345, 0, 333, 20) : One_Of(places);
+        return places.empty() ? QPoint(500, 10) : Inside(One_Of(places));
+    }
+    QPoint Inside(const QRect& place) {
         return place.topLeft() +
                QPoint(Any(std::max(1, place.width())), Any(std::max(1, place.height())));
     }
@@ -129,6 +135,25 @@ protected:
         }
         default:
             return Do(there + QStringList{u"click"_s, Any_Button()});
+        }
+    }
+    // What the clipboard, the selection or a dragged text holds goes into a field.
+    void Paste() {
+        Look_Around();
+        if (fields.empty()) {
+            return;
+        }
+        const QStringList there = Move_To(Inside(One_Of(fields)));
+        const QStringList click{u"click"_s, u"1"_s};
+        switch (Any(3)) {
+        case 0:
+            return Do(there + QStringList{u"click"_s, u"2"_s});
+        case 1:
+            return Do(there + click + QStringList{u"key"_s, u"ctrl+a"_s} +
+                      Held(u"1"_s, QStringList{u"sleep"_s, u"0.1"_s} + Move_To(Somewhere()) +
+                                       Move_To(Inside(One_Of(fields)))));
+        default:
+            return Do(there + click + QStringList{u"key"_s, u"ctrl+v"_s});
         }
     }
     void Press() {
@@ -179,8 +204,10 @@ protected:
     }
     void Step() {
         const int kind = Any(100);
-        if (kind < 45) {
+        if (kind < 33) {
             Point();
+        } else if (kind < 45) {
+            Paste();
         } else if (kind < 70) {
             Press();
         } else if (kind < 80) {
@@ -207,7 +234,7 @@ protected:
     std::mt19937 random;
     QStringList steps;
     QSet<QString> met;
-    std::vector<QRect> places;
+    std::vector<QRect> places, fields;
     QProcess ground, owner;
 };
 
