@@ -171,13 +171,11 @@ TEST_F(NotesEditor, Categories_are_added_renamed_and_deleted) {
     EXPECT_EQ(system.dialogs.shown.back().start, u"Another Category"_s);
     EXPECT_EQ(Global_NoteCategories[1], u"Other"_s);
     const QString question = u"All the notes inside this category will be deleted\r\nContinue ?"_s;
-    const auto Expect_Question = [&](platform::Answer answer) {
-        system.dialogs.Expect_Question(question, answer, platform::BoxStyle::Question,
-                                       u"Delete \"Other\""_s);
-    };
-    Expect_Question(platform::Answer::No);
+    system.dialogs.Expect_Question(question, platform::Answer::No, platform::BoxStyle::Question,
+                                   u"Delete \"Other\""_s);
     QTest::keyClick(list, Qt::Key_Delete);
-    Expect_Question(platform::Answer::Yes);
+    system.dialogs.Expect_Question(question, platform::Answer::Yes, platform::BoxStyle::Question,
+                                   u"Delete \"Work Stuff\""_s);
     const QPoint first = list->visualItemRect(list->item(0)).center();
     QTest::mouseClick(list->viewport(), Qt::RightButton, {}, first);
     EXPECT_EQ(form->Selected_Category(), 1);

@@ -7,8 +7,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The texts alone.
+std::vector<HourRow> Shown(const ReminderClass& reminder) {
+    std::vector<HourRow> rows = Rows_Of(reminder);
+    for (HourRow& row : rows)
+        row.Stored.reset();
+    return rows;
+}
+
 HourRow Row(HourRowType type, const QString& start, const QString& until, const QString& period) {
-    return {type, true, start, until, period};
+    return {type, true, start, until, period, std::nullopt};
 }
 
 TEST(HourRules, Each_kind_of_row_goes_to_texts_and_back) {
@@ -28,12 +36,25 @@ TEST(HourRules, Each_kind_of_row_goes_to_texts_and_back) {
         reminder.AddNewHourSetup(row.setup);
         rows.push_back(row.row);
     }
-    EXPECT_EQ(Rows_Of(reminder), rows);
+    EXPECT_EQ(Shown(reminder), rows);
     rows[1].Enabled = false;
     EXPECT_FALSE(Save_HourRows(rows, reminder));
-    EXPECT_EQ(Rows_Of(reminder), rows);
+    EXPECT_EQ(Shown(reminder), rows);
     EXPECT_EQ(reminder.GetHourSetup(1), (HourSetup{0, 0, 0, 0}));
     EXPECT_TRUE(Rows_Of(ReminderClass()).empty());
+    // What no field takes when it is typed stays as the record has it.
+    const HourSetup stored[] = {{-1, 2000, 0, 0}, {-1, 840, 600, -5}, {-1, -1, 1500, 2000}};
+    ReminderClass odd;
+    for (const HourSetup& setup : stored)
+        odd.AddNewHourSetup(setup);
+    rows = Rows_Of(odd);
+    EXPECT_FALSE(Save_HourRows(rows, odd));
+    for (std::int32_t index = 0; index < 3; ++index)
+        EXPECT_EQ(odd.GetHourSetup(index), stored[index]) << index;
+    rows[1].Until = u"11:00"_s; // before its start
+    EXPECT_EQ(Save_HourRows(rows, odd)->Row, 1);
+    rows[0].Start = u"33:21"_s;
+    EXPECT_EQ(Save_HourRows(rows, odd)->Row, 0);
 }
 
 TEST(HourRules, A_bad_row_stops_the_save_and_leaves_those_before_it) {
