@@ -107,10 +107,12 @@ void frmMissedReminders::resizeEvent(QResizeEvent*) {
     if (isMinimized() || width() < SmallestLayout || height() < SmallestLayout)
         return;
     const int labelTop = height() - FromEdge - SmallLineHeight;
-    Label1->setGeometry(0, labelTop, width(), SmallLineHeight);
+    const int hintRoom = helpHint->width() + 4 * FromEdge;
+    const bool hasRoom = width() > Label1->sizeHint().width() + 2 * hintRoom;
+    const int beside = hasRoom ? hintRoom : 0; // on both sides, so that it stays in the middle
+    Label1->setGeometry(beside, labelTop, width() - 2 * beside, SmallLineHeight);
     helpHint->move(width() - helpHint->width() - 2 * FromEdge, labelTop);
-    helpHint->setVisible(width() >
-                         Label1->sizeHint().width() + 2 * helpHint->width() + 8 * FromEdge);
+    helpHint->setVisible(hasRoom);
     List1->setGeometry(0, 0, width(), labelTop - FromEdge);
 }
 
