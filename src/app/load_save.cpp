@@ -109,7 +109,10 @@ void Application::Load_Settings() {
     auto& desktop = platform::Desktop::Get();
     SettingsDefaults defaults;
     defaults.ToolbarWidth = ToolbarDesignWidth * desktop.TwipsPerPixelX();
-    defaults.ScreenWidth = desktop.Screen_Size().width * desktop.TwipsPerPixelX();
+    const QRect screen = desktop.Screens().front();
+    defaults.ScreenWidth = PixelsX_To_Twips(screen.width());
+    defaults.ScreenLeft = PixelsX_To_Twips(screen.left());
+    defaults.ScreenTop = PixelsY_To_Twips(screen.top());
     defaults.TwipsPerPixelY = desktop.TwipsPerPixelY();
     defaults.AccountIsTaken = [this](std::int32_t number) {
         return Account_Is_Taken(programFolder, number);
@@ -180,10 +183,15 @@ void Application::Place_Textbox() {
 
 void Application::Build_LinksMenu() {
     Load_Global_LinksArray();
-    Init_LinksMenu([this] {
-        if (!Program_Is_Ending())
-            mainForm->MouseOver();
-    });
+    Init_LinksMenu(
+        [this] {
+            if (!Program_Is_Ending())
+                mainForm->MouseOver();
+        },
+        [this] {
+            if (!Program_Is_Ending())
+                mainForm->Take_Focus();
+        });
 }
 
 void Application::Await_SetupWizard() {

@@ -3,8 +3,8 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/unload_queue.h"
-#include "platform/desktop.h"
 #include "platform/window.h"
 
 #include <QCloseEvent>
@@ -59,10 +59,10 @@ QLabel* Form::Add_Label(const QString& text, int left, int top, int width, QWidg
 
 // Window managers that look for free room put a window half off the screen for it.
 void Form::Centre_OnScreen() {
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    const int room = screen.height - height();
-    move(std::max((screen.width - width()) / 2, 0),
-         std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
+    const QRect screen = The_Screen();
+    const int room = screen.height() - height();
+    move(screen.left() + std::max((screen.width() - width()) / 2, 0),
+         screen.top() + std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
 }
 
 void Form::Present() {

@@ -2,8 +2,8 @@
 
 #include "controls/metrics.h"
 #include "controls/painting.h"
+#include "controls/the_screen.h"
 #include "controls/tooltip_layout.h"
-#include "platform/desktop.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -68,8 +68,7 @@ void frmTooltip::Set_Text_and_Size(const QString& Text, int MaxWidth) {
 
 void frmTooltip::Show_Beside(QWidget* picture, const QRect& onScreen) {
     shownFor = picture;
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    move(Place_Tooltip(onScreen, size(), QSize(screen.width, screen.height)));
+    move(Place_Tooltip(onScreen, size(), Screen_At(onScreen.center())));
     // Above the window that it belongs to, also where that one stays on top itself.
     winId();
     windowHandle()->setTransientParent(picture->window()->windowHandle());

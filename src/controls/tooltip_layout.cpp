@@ -1,5 +1,7 @@
 #include "controls/tooltip_layout.h"
 
+#include "controls/the_screen.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -51,11 +53,9 @@ std::vector<TooltipLine> Layout_Tooltip(const QString& text, int maxWidth,
     return lines;
 }
 
-QPoint Place_Tooltip(const QRect& picture, const QSize& tip, const QSize& screen) {
+QPoint Place_Tooltip(const QRect& picture, const QSize& tip, const QRect& screen) {
     int left = picture.x() + picture.width() + FromPicture;
-    if (left + tip.width() > screen.width())
+    if (left + tip.width() > screen.right() + 1)
         left = picture.x() - FromPicture - tip.width();
-    const int top = std::min(picture.y(), screen.height() - tip.height());
-    left = std::min(left, screen.width() - tip.width());
-    return {std::max(left, 0), std::max(top, 0)};
+    return Moved_Into(screen, {QPoint(left, picture.y()), tip}).topLeft();
 }

@@ -22,4 +22,4 @@ std::vector<TooltipLine> Layout_Tooltip(const QString& text, int maxWidth,
                                         const TextWidth& widthOf);
 
 // Beside the picture: right of it, or left of it where the screen ends, and all on the screen.
-QPoint Place_Tooltip(const QRect& picture, const QSize& tip, const QSize& screen);
+QPoint Place_Tooltip(const QRect& picture, const QSize& tip, const QRect& screen);

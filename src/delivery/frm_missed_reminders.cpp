@@ -5,6 +5,7 @@
 #include "controls/metrics.h"
 #include "controls/palette.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "core/reminder_store.h"
 #include "delivery/deliver.h"
 #include "platform/shown_text.h"
@@ -90,7 +91,7 @@ void frmMissedReminders::Place_Window() {
     const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const MissedPlace place =
         Place_MissedWindow(static_cast<int>(entries.size()), widest, frame,
-                           Global_Toolbar->Bounds(), platform::Desktop::Get().Screen_Size());
+                           Global_Toolbar->Bounds(), The_Screen());
     resize(place.Width, place.Height - frame);
     move(place.Left, place.Top);
 }

@@ -4,13 +4,13 @@
 
 #include "controls/program_end.h"
 #include "controls/show_beside.h"
+#include "controls/the_screen.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
 #include "core/reminder_store.h"
 #include "delivery/near_placement.h"
 #include "delivery/options_menu.h"
 #include "delivery/rwin_layout.h"
-#include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/shell.h"
 #include "platform/window.h"
@@ -19,6 +19,7 @@
 #include <QAccessible>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -60,6 +61,7 @@ void frmImportantRWin::AddReminder(std::int32_t slot) {
 void frmImportantRWin::Show_Window() {
     platform::Windows& windows = platform::Windows::Get();
     windows.Leave_TaskBar(winId());
+    windows.Show_Everywhere(winId());
     if (Global_IsWinXP && Global_UseTransparency) {
         Global_Transparency().DoFadeIn(this);
         Global_Transparency().Enable_TC_Timer();
@@ -67,7 +69,18 @@ void frmImportantRWin::Show_Window() {
         Show_BesideMenus(*this);
     }
     windows.Set_Topmost(winId(), true);
+    comesUp = true;
+    shownAt = pos();
     Tell_ScreenReader();
+}
+
+// Some window managers put a window that came without the focus behind the one that has it, and
+// count a frame that it has not.
+void frmImportantRWin::Come_Up() {
+    if (closed)
+        return;
+    platform::Windows::Get().Raise(winId(), platform::RaiseOver::All);
+    move(shownAt);
 }
 
 void frmImportantRWin::Tell_ScreenReader() {
@@ -147,8 +160,9 @@ void frmImportantRWin::Stay_OnScreen(int formerBottom) {
     const NearWindowEntry* entry =
         IsCenteredWindow ? nullptr : Entry_At(Global_NearWindows, ListIndex);
     const int top = entry != nullptr && entry->AlignBottom ? formerBottom - height() : y();
-    const int lowest = platform::Desktop::Get().Screen_Size().height - height();
-    move(x(), std::max(std::min(top, lowest), 0));
+    const QRect screen = Screen_At(geometry().center());
+    const int lowest = screen.bottom() + 1 - height();
+    move(x(), std::max(std::min(top, lowest), screen.top()));
 }
 
 void frmImportantRWin::Free_Entry() {

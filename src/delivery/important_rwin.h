@@ -64,6 +64,7 @@ private:
     void Free_Entry();
     bool Take_Entry(std::int32_t slot);
     void Close_Window();
+    void Come_Up();
 
     std::array<FunctionType, ReminderClass::FunctionCount> ActionKind{};
     std::array<QString, ReminderClass::FunctionCount> ActionTarget;
@@ -75,5 +76,7 @@ private:
     wbButton* wbButton2 = nullptr;
     wbButton* wbButton3 = nullptr;
     int shapeHeight = 77; // pixels, of the outline
+    bool comesUp = false; // with the next painting: now it is not on the screen yet
+    QPoint shownAt;       // where it was to stand then
     bool closed = false;
 };

@@ -13,6 +13,9 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -167,7 +170,7 @@ void frmImportantRWin::Lay_Out(int actions) {
     wbButton2->setGeometry(rwin::OptionsLeft, top, rwin::OptionsWidth, rwin::ButtonHeight);
     wbButton3->setGeometry(rwin::CloseLeft, top, rwin::CloseWidth, rwin::ButtonHeight);
     shapeHeight = rwin::Shape_Height(rows);
-    resize(rwin::Width, shapeHeight);
+    setFixedSize(rwin::Width, shapeHeight);
     update();
 }
 
@@ -187,4 +190,6 @@ void frmImportantRWin::paintEvent(QPaintEvent*) {
     const QRect shape(0, 0, rwin::Width, shapeHeight);
     painter.fillRect(shape, palette::To_Color(palette::ReminderWindow_Outline_Back));
     Draw_Frame(painter, shape, palette::To_Color(palette::Outline));
+    if (std::exchange(comesUp, false))
+        QTimer::singleShot(0, this, &frmImportantRWin::Come_Up);
 }

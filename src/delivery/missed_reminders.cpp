@@ -1,5 +1,6 @@
 #include "delivery/missed_reminders.h"
 
+#include "controls/the_screen.h"
 #include "core/date_text.h"
 #include "core/reminder_store.h"
 
@@ -67,17 +68,19 @@ std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
 }
 
 MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
-                               const ToolbarRect& toolbar, const platform::Size& screen) {
+                               const ToolbarRect& toolbar, const QRect& screen) {
     MissedPlace place;
     const int shownRows = std::clamp(rows + 1, 2, MostRows);
     place.Height = shownRows * RowHeight + BelowRows + frameHeight;
     // A text of any length must not make a window that nobody can take hold of.
-    place.Width = std::min(std::max(widestText, LeastTextWidth), screen.width) + BesideText;
-    place.Width = std::min(place.Width, screen.width);
+    place.Width = std::min(std::max(widestText, LeastTextWidth), screen.width()) + BesideText;
+    place.Width = std::min(place.Width, screen.width());
     place.Top = toolbar.Bottom + FromToolbar;
-    if (place.Top + place.Height > screen.height)
+    if (place.Top + place.Height > screen.bottom() + 1)
         place.Top = toolbar.Top - FromToolbar - place.Height;
-    place.Top = std::max(std::min(place.Top, screen.height - place.Height), 0);
-    place.Left = std::max(std::min(toolbar.Left, screen.width - place.Width), 0);
+    const QRect inside =
+        Moved_Into(screen, {toolbar.Left, place.Top, place.Width, place.Height});
+    place.Top = inside.top();
+    place.Left = inside.left();
     return place;
 }

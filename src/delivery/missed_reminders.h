@@ -31,7 +31,7 @@ struct MissedPlace {
 };
 // widestText and frameHeight (what the frame adds to the height): pixels.
 MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
-                               const ToolbarRect& toolbar, const platform::Size& screen);
+                               const ToolbarRect& toolbar, const QRect& screen);
 
 // Builds the list, and shows the window when there is something in it.
 void LoadAndShow_MissedReminders();

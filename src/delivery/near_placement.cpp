@@ -47,24 +47,44 @@ std::int32_t Next_Column(const std::vector<NearWindowEntry>& table, NearSide sid
 }
 
 NearSide Opposite(NearSide side) {
+    if (side == NearSide::Under)
+        return side;
     return side == NearSide::Left ? NearSide::Right : NearSide::Left;
 }
 
 // Left edge of a window in a column of the side.
-std::int32_t Column_Left(const ToolbarRect& toolbar, NearSide side, std::int32_t column) {
-    return side == NearSide::Left ? toolbar.Left - column * WindowWidth
-                                  : toolbar.Right + (column - 1) * WindowWidth;
+std::int32_t Column_Left(const ToolbarRect& toolbar, const QRect& screen, NearSide side,
+                         std::int32_t column) {
+    switch (side) {
+    case NearSide::Left:
+        return toolbar.Left - column * WindowWidth;
+    case NearSide::Right:
+        return toolbar.Right + (column - 1) * WindowWidth;
+    case NearSide::Under:
+        break;
+    }
+    return std::max(toolbar.Left, screen.left()) + (column - 1) * WindowWidth;
 }
 
-bool Fits(const ToolbarRect& toolbar, const platform::Size& screen, NearSide side,
+// A window that passes an edge by more than it may, as when the toolbar itself stands off the
+// screen, is flush with it.
+std::int32_t Held_Inside(std::int32_t place, std::int32_t length, std::int32_t from,
+                         std::int32_t to) {
+    if (place + length > to + Overhang)
+        place = to - length;
+    return place < from - Overhang ? from : place;
+}
+
+bool Fits(const ToolbarRect& toolbar, const QRect& screen, NearSide side,
           std::int32_t column) {
-    const std::int32_t left = Column_Left(toolbar, side, column);
-    return side == NearSide::Left ? left >= -Overhang
-                                  : left + WindowWidth <= screen.width + Overhang;
+    const std::int32_t left = Column_Left(toolbar, screen, side, column);
+    return left >= screen.left() - Overhang &&
+           left + WindowWidth <= screen.right() + 1 + Overhang;
 }
 
-bool Reaches_Upward(const ToolbarRect& toolbar, const platform::Size& screen) {
-    return screen.height - (toolbar.Top + TypicalHeight) <= toolbar.Bottom - TypicalHeight;
+bool Reaches_Upward(const ToolbarRect& toolbar, const QRect& screen) {
+    return screen.bottom() + 1 - (toolbar.Top + TypicalHeight) <=
+           toolbar.Bottom - TypicalHeight - screen.top();
 }
 
 // The window with the fewest reminders added to it, of equal ones the oldest; the first that has
@@ -84,14 +104,19 @@ std::size_t Choose_Host(const std::vector<NearWindowEntry>& table) {
     return host;
 }
 
-void Stand_First(NearWindowEntry& entry, const ToolbarRect& toolbar, const platform::Size& screen) {
-    entry.Side = Fits(toolbar, screen, NearSide::Right, 1) ? NearSide::Right : NearSide::Left;
+void Stand_First(NearWindowEntry& entry, const ToolbarRect& toolbar, const QRect& screen) {
     entry.Column = 1;
+    for (const NearSide side : {NearSide::Right, NearSide::Left}) {
+        entry.Side = side;
+        if (Fits(toolbar, screen, side, entry.Column))
+            return;
+    }
+    entry.Side = NearSide::Under;
 }
 
 // Behind the last column, on the side opposite to the edge window first. False: both are full.
 bool Stand_Behind(NearWindowEntry& entry, const std::vector<NearWindowEntry>& table,
-                  NearSide edgeSide, const ToolbarRect& toolbar, const platform::Size& screen) {
+                  NearSide edgeSide, const ToolbarRect& toolbar, const QRect& screen) {
     for (const NearSide side : {Opposite(edgeSide), edgeSide}) {
         entry.Side = side;
         entry.Column = Next_Column(table, side);
@@ -115,7 +140,7 @@ void Wait_Inside(NearWindowEntry& entry, std::vector<NearWindowEntry>& table, st
 
 // Decides for the reminder of the entry, which is not in the table yet.
 NearPlacement Place_Entry(NearWindowEntry& entry, std::vector<NearWindowEntry>& table,
-                          const ToolbarRect& toolbar, const platform::Size& screen) {
+                          const ToolbarRect& toolbar, const QRect& screen) {
     NearPlacement placement;
     placement.Decision = NearDecision::NewWindow;
     const auto first = std::find_if(table.begin(), table.end(),
@@ -134,7 +159,8 @@ NearPlacement Place_Entry(NearWindowEntry& entry, std::vector<NearWindowEntry>& 
     } else {
         Stand_First(entry, toolbar, screen);
     }
-    placement.X = Column_Left(toolbar, entry.Side, entry.Column);
+    placement.X = Held_Inside(Column_Left(toolbar, screen, entry.Side, entry.Column), WindowWidth,
+                              screen.left(), screen.right() + 1);
     return placement;
 }
 
@@ -149,7 +175,7 @@ void Init_ReminderWindows() {
 }
 
 NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
-                               const ToolbarRect& toolbar, const platform::Size& screen) {
+                               const ToolbarRect& toolbar, const QRect& screen) {
     const std::optional<std::size_t> free = Take_Entry(table, request);
     if (!free)
         return {};
@@ -163,8 +189,12 @@ NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const Window
     return placement;
 }
 
-std::int32_t NearWindow_Top(const ToolbarRect& toolbar, bool alignBottom, std::int32_t height) {
-    return alignBottom ? toolbar.Bottom - height : toolbar.Top;
+std::int32_t NearWindow_Top(const NearWindowEntry& entry, const ToolbarRect& toolbar,
+                            std::int32_t height, const QRect& screen) {
+    const bool under = entry.Side == NearSide::Under;
+    const std::int32_t top = entry.AlignBottom ? (under ? toolbar.Top : toolbar.Bottom) - height
+                                               : (under ? toolbar.Bottom : toolbar.Top);
+    return Held_Inside(top, height, screen.top(), screen.bottom() + 1);
 }
 
 std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request) {
@@ -175,6 +205,7 @@ std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const Windo
     return static_cast<std::int32_t>(*free);
 }
 
-platform::Point Centered_Place(const platform::Size& screen, const platform::Size& window) {
-    return {(screen.width - window.width) / 2, (screen.height - window.height) / 2};
+QPoint Centered_Place(const QRect& screen, const QSize& window) {
+    return screen.topLeft() + QPoint((screen.width() - window.width()) / 2,
+                                     (screen.height() - window.height()) / 2);
 }

@@ -3,7 +3,8 @@
 #pragma once
 
 #include "controls/toolbar.h"
-#include "platform/desktop.h"
+
+#include <QRect>
 
 #include <cstddef>
 #include <cstdint>
@@ -11,13 +12,15 @@
 
 class frmImportantRWin;
 
-enum class NearSide : std::uint8_t { Left = 0, Right = 1 };
+// Where the window stands: beside the toolbar or, where neither side has room for one, below or
+// above it.
+enum class NearSide : std::uint8_t { Left = 0, Right = 1, Under = 2 };
 
 struct NearWindowEntry {
     bool Used = false;
     NearSide Side = NearSide::Left;
     bool AlignBottom = false; // bottoms level, the window reaches upward; else tops, downward
-    std::int32_t Column = 0;  // 1 = touches the toolbar
+    std::int32_t Column = 0;  // 1 = touches the toolbar, or is flush with its left edge
     std::int32_t Waiting = 0; // how many reminders were added to this window
     bool IsQueued = false;    // held inside another entry's window
     std::int32_t Tick = 0;    // millisecond clock at creation
@@ -59,10 +62,11 @@ struct NearPlacement {
 
 // Decides for one reminder and brings the table up to date.
 NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
-                               const ToolbarRect& toolbar, const platform::Size& screen);
-// Top edge of a window of this height.
-std::int32_t NearWindow_Top(const ToolbarRect& toolbar, bool alignBottom, std::int32_t height);
+                               const ToolbarRect& toolbar, const QRect& screen);
+// Top edge of the entry's window, of this height.
+std::int32_t NearWindow_Top(const NearWindowEntry& entry, const ToolbarRect& toolbar,
+                            std::int32_t height, const QRect& screen);
 
 // The entry filled for the reminder in the centred window, or -1 when it is there already.
 std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request);
-platform::Point Centered_Place(const platform::Size& screen, const platform::Size& window);
+QPoint Centered_Place(const QRect& screen, const QSize& window);

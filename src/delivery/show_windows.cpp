@@ -1,5 +1,6 @@
 #include "delivery/show_windows.h"
 
+#include "controls/the_screen.h"
 #include "controls/toolbar.h"
 #include "core/reminder_store.h"
 #include "delivery/important_rwin.h"
@@ -31,7 +32,7 @@ void Raise_Soon(frmImportantRWin* window) {
     QTimer::singleShot(0, window, [window] {
         asked.clear();
         if (!window->Is_Closed())
-            platform::Windows::Get().Set_Topmost(window->winId(), true);
+            platform::Windows::Get().Raise(window->winId(), platform::RaiseOver::All);
     });
 }
 
@@ -40,8 +41,8 @@ void Raise_Soon(frmImportantRWin* window) {
 void Show_NextToToolbar(std::int32_t index) {
     const WindowRequest request = Request_For(index);
     const ToolbarRect toolbar = Global_Toolbar->Bounds();
-    const NearPlacement placement = Place_NearWindow(Global_NearWindows, request, toolbar,
-                                                     platform::Desktop::Get().Screen_Size());
+    const QRect screen = The_Screen();
+    const NearPlacement placement = Place_NearWindow(Global_NearWindows, request, toolbar, screen);
     if (placement.Decision == NearDecision::AlreadyShown)
         return;
     const auto slot = static_cast<std::int32_t>(placement.Entry);
@@ -55,7 +56,7 @@ void Show_NextToToolbar(std::int32_t index) {
     NearWindowEntry& entry = Global_NearWindows[placement.Entry];
     entry.WorkForm = window;
     window->ListIndex = slot;
-    window->move(placement.X, NearWindow_Top(toolbar, entry.AlignBottom, window->height()));
+    window->move(placement.X, NearWindow_Top(entry, toolbar, window->height(), screen));
     window->Show_Window();
 }
 
@@ -74,10 +75,7 @@ void Show_Centered(std::int32_t index, OtherApplications others) {
     centeredWindow->IsCenteredWindow = true;
     centeredWindow->ListIndex = slot;
     centeredWindow->UpdateWindow(index);
-    const platform::Point place =
-        Centered_Place(platform::Desktop::Get().Screen_Size(),
-                       {centeredWindow->width(), centeredWindow->height()});
-    centeredWindow->move(place.x, place.y);
+    centeredWindow->move(Centered_Place(The_Screen(), centeredWindow->size()));
     centeredWindow->Show_Window();
 }
 

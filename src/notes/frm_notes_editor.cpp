@@ -6,6 +6,7 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
@@ -66,9 +67,10 @@ frmNotesEditor::frmNotesEditor() {
     Build_Status();
     Connect_Controls();
     list->setFocus();
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    resize(std::min(FirstSize.width(), screen.width), std::min(FirstSize.height(), screen.height));
-    move(std::max((screen.width - width()) / 2, 0), std::max((screen.height - height()) / 2, 0));
+    const QRect screen = The_Screen();
+    resize(FirstSize.boundedTo(screen.size()));
+    move(screen.left() + (screen.width() - width()) / 2,
+         screen.top() + (screen.height() - height()) / 2);
     Lay_Out();
     const int category = Is_NoteCategory(lastCategory) ? lastCategory : 0;
     Select_Category(Is_NoteCategory(category) ? category : NoCategory);

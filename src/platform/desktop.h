@@ -1,12 +1,14 @@
-// The screen, the cursor, and the other applications on it. All pixels are logical ones; "the
-// screen" is the primary screen.
+// The screens, the cursor, and the other applications on them. All pixels are logical ones.
 #pragma once
 
 #include "platform/service.h"
 
+#include <QRect>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace platform {
 
@@ -24,7 +26,10 @@ struct Size {
 
 class Desktop : public Service<Desktop> {
 public:
-    virtual Size Screen_Size() = 0;
+    // The screens, each with its place on the common plane; the primary one first. Never empty.
+    virtual std::vector<QRect> Screens() = 0;
+    // Called after a screen has come, gone, or changed its size or place. One handler at a time.
+    virtual void On_ScreensChange(std::function<void()> handler) = 0;
     // Twips in one logical pixel (15).
     virtual int TwipsPerPixelX() = 0;
     virtual int TwipsPerPixelY() = 0;

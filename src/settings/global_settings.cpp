@@ -52,7 +52,8 @@ std::int32_t Always(const SettingsDefaults& /*defaults*/) {
 }
 
 std::int32_t Centred_Left(const SettingsDefaults& defaults) {
-    return static_cast<std::int32_t>(
+    return defaults.ScreenLeft +
+           static_cast<std::int32_t>(
         std::lrint(defaults.ScreenWidth / 2.0 - defaults.ToolbarWidth / 2.0));
 }
 
@@ -70,14 +71,14 @@ const std::array Rows{
     SettingRow{"Global_Config_MainForm_Width", SettingKey::User, &Global_Config_MainForm_Width,
                [](const SettingsDefaults& defaults) { return defaults.ToolbarWidth; }},
     SettingRow{"Global_Config_MainForm_Top", SettingKey::User, &Global_Config_MainForm_Top,
-               Always<0>},
+               [](const SettingsDefaults& defaults) { return defaults.ScreenTop; }},
     SettingRow{"Global_Config_MainForm_Left", SettingKey::User, &Global_Config_MainForm_Left,
                Centred_Left},
     SettingRow{"Global_Config_Textbox_Top", SettingKey::User, &Global_Config_Textbox_Top,
-               [](const SettingsDefaults& defaults) { return 30 * defaults.TwipsPerPixelY; }},
+               [](const SettingsDefaults& defaults) { return defaults.ScreenTop + 30 * defaults.TwipsPerPixelY; }},
     SettingRow{"Global_Config_Textbox_Left", SettingKey::User, &Global_Config_Textbox_Left,
                [](const SettingsDefaults& defaults) {
-                   return defaults.ScreenWidth - defaults.TextboxWidth;
+                   return defaults.ScreenLeft + defaults.ScreenWidth - defaults.TextboxWidth;
                }},
     SettingRow{"Global_CurID", SettingKey::User, &Global_CurID, Always<-1>},
     SettingRow{"DateFormat", SettingKey::User, &Global_DateFormat, nullptr},

@@ -28,11 +28,13 @@ extern bool Global_IsWinXP; // the system counts as recent
 // The sizes that some defaults come from.
 struct SettingsDefaults {
     std::int32_t ToolbarWidth = 333 * 15; // the toolbar's design width, twips
-    std::int32_t ScreenWidth = 0;         // twips
+    std::int32_t ScreenWidth = 0;         // of the primary screen, twips
     std::int32_t TextboxWidth = 258 * 15; // the text box: 250 pixels inside its frame, twips
     std::int32_t TwipsPerPixelY = 15;
     // Whether an account number that seems to be free belongs to somebody else.
     std::function<bool(std::int32_t number)> AccountIsTaken = {};
+    std::int32_t ScreenLeft = 0; // of the primary screen, twips
+    std::int32_t ScreenTop = 0;
     // Whether the user's own number leads to a folder that is closed to the user.
     std::function<bool(std::int32_t number)> AccountIsClosed = {};
 };

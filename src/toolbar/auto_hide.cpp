@@ -1,6 +1,7 @@
 // The strip gets out of the way and comes back.
 #include "controls/program_end.h"
 #include "controls/show_beside.h"
+#include "controls/the_screen.h"
 #include "controls/timers.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
@@ -59,8 +60,7 @@ HideMode MainForm::Get_Best_Auto_HideMode(bool forceBest) const {
     if (!forceBest && selected != HideMode::Best) {
         return selected;
     }
-    return Best_HideMode(toolbarRect, TwipsX_To_Pixels(live.Width),
-                         platform::Desktop::Get().Screen_Size());
+    return Best_HideMode(toolbarRect, TwipsX_To_Pixels(live.Width), The_Screen());
 }
 
 void MainForm::Guard_Hiding(const QString& reason) {
@@ -128,9 +128,7 @@ void MainForm::Collapse_Strip(HideMode mode) {
     Picture2->setGeometry(rect());
     Picture2->show();
     Picture2->raise();
-    if (isActiveWindow()) {
-        Picture2->setFocus(Qt::MouseFocusReason);
-    }
+    Settle_Focus();
     Collapse_Step();
 }
 

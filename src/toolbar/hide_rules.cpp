@@ -27,17 +27,17 @@ CloseAction CloseAction_OfAnswer(int answer) {
     return CloseAction::Nothing;
 }
 
-HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, platform::Size screen) {
+HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, const QRect& screen) {
     constexpr int NearTop = 21;
     constexpr int NearBottom = 40;
-    if (bounds.Top < NearTop) {
+    if (bounds.Top < screen.top() + NearTop) {
         return HideMode::Top;
     }
-    if (bounds.Bottom >= screen.height - NearBottom) {
+    if (bounds.Bottom >= screen.bottom() + 1 - NearBottom) {
         return HideMode::Bottom;
     }
     // Doubled, so that odd widths keep their half pixels.
-    return scaleWidth + screen.width >= bounds.Right * 2 ? HideMode::Left : HideMode::Right;
+    return scaleWidth + screen.width() >= (bounds.Right - screen.left()) * 2 ? HideMode::Left : HideMode::Right;
 }
 
 bool AutoHide_Is_Due(const AutoHideMoment& moment) {

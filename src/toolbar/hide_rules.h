@@ -17,7 +17,7 @@ CloseAction CloseAction_OfAnswer(int answer);
 
 // The way to hide that suits the strip's place: bounds in screen pixels, scaleWidth the strip's
 // width. Tried in the order top, bottom, left, right.
-HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, platform::Size screen);
+HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, const QRect& screen);
 
 // What AutoHide looks at, once a second.
 struct AutoHideMoment {

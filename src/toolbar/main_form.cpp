@@ -57,10 +57,16 @@ MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActio
     Build_Buttons();
     commands.On_Change([this] { Enable_Buttons(); });
     Enable_Buttons();
+    Watch_Order();
+    platform::Desktop::Get().On_ScreensChange([this] { Stay_OnScreens(); });
 }
 
 MainForm::~MainForm() {
     commands.On_Change({});
+    platform::Desktop::Get().On_ScreensChange({});
+    if (platform::Windows::Is_Provided()) {
+        platform::Windows::Get().On_Restack({});
+    }
     if (Global_Timers != nullptr) {
         for (const TimerName timer : OwnTimers) {
             Global_Timers->On_Tick(timer, {});
@@ -70,7 +76,8 @@ MainForm::~MainForm() {
 }
 
 void MainForm::Load_Window(const StartPlace& place) {
-    Set_Bounds({place.Left, place.Top, place.Width, PixelsY_To_Twips(ToolbarHeight)});
+    Set_Bounds(ToolbarDrag::Brought_In(
+        {place.Left, place.Top, place.Width, PixelsY_To_Twips(ToolbarHeight)}, DragScreen::Now()));
     saved = live;
     if (Global_Timers != nullptr) {
         Global_Timers->On_Tick(TimerName::ResizeForm_Timer, [this] { ResizeForm_Tick(); });
@@ -104,13 +111,24 @@ void MainForm::Set_Bounds(const TwipsRect& wanted) {
     asked.push_back(place);
     lastAsked = platform::Clock::Get().Milliseconds();
     placing = true;
+    Hold_Size(size().boundedTo(place.size()), size().expandedTo(place.size()));
     setGeometry(place);
+    Hold_Size(place.size(), place.size());
     placing = false;
     live = bounds;
     UpdateToolbarRect();
     // A window that is not shown gets its events later, but its line is asked for now.
     if (!isVisible() && !collapsing) {
         Lay_Out();
+    }
+}
+
+// No window manager shall size it. The limits are widened before each step: held by them, the
+// window would take it in two.
+void MainForm::Hold_Size(const QSize& least, const QSize& most) {
+    if (QWindow* window = windowHandle()) {
+        window->setMinimumSize(least);
+        window->setMaximumSize(most);
     }
 }
 
@@ -127,8 +145,11 @@ void MainForm::Take_LiveBounds() {
         return;
     }
     asked.clear();
-    live = {PixelsX_To_Twips(now.x()), PixelsY_To_Twips(now.y()), PixelsX_To_Twips(now.width()),
-            PixelsY_To_Twips(now.height())};
+    if (now.size() != QSize(TwipsX_To_Pixels(live.Width), TwipsY_To_Pixels(live.Height))) {
+        return;
+    }
+    live.Left = PixelsX_To_Twips(now.x());
+    live.Top = PixelsY_To_Twips(now.y());
     UpdateToolbarRect();
 }
 
@@ -144,6 +165,24 @@ void MainForm::UpdateToolbarRect() {
     }
 }
 
+// A screen has gone, or become smaller.
+void MainForm::Stay_OnScreens() {
+    if (collapsing) {
+        QTimer::singleShot(AnswerTime, this, &MainForm::Stay_OnScreens);
+        return;
+    }
+    const DragScreen screens = DragScreen::Now();
+    saved = ToolbarDrag::Brought_In(saved, screens);
+    Set_Bounds(ToolbarDrag::Brought_In(live, screens));
+}
+
+void MainForm::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && (isMaximized() || isFullScreen())) {
+        setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    }
+}
+
 void MainForm::moveEvent(QMoveEvent*) {
     Take_LiveBounds();
 }
@@ -151,8 +190,19 @@ void MainForm::moveEvent(QMoveEvent*) {
 void MainForm::resizeEvent(QResizeEvent*) {
     Take_LiveBounds();
     Picture2->setGeometry(rect());
+    Cover_Excess();
     if (!collapsing && !Is_Collapsed()) {
         Lay_Out();
+    }
+}
+
+// A window manager that allows no window so thin gives it more than it asked for.
+void MainForm::Cover_Excess() {
+    const QSize wanted(TwipsX_To_Pixels(live.Width), TwipsY_To_Pixels(live.Height));
+    if (!placing && (width() > wanted.width() || height() > wanted.height())) {
+        setMask(QRect(QPoint(), wanted));
+    } else if (!mask().isEmpty()) {
+        clearMask();
     }
 }
 
@@ -162,6 +212,8 @@ void MainForm::Move_To(int left, int top) {
 
 void MainForm::showEvent(QShowEvent*) {
     standsApart = false;
+    mappedAt = live;
+    Hold_Size(size(), size());
     windowHandle()->installEventFilter(this);
     Stand_Apart();
 }
@@ -172,8 +224,17 @@ void MainForm::Stand_Apart() {
     if (platform::Windows::Is_Provided()) {
         platform::Windows::Get().Leave_TaskBar(winId());
         platform::Windows::Get().Keep_Place(winId());
+        platform::Windows::Get().Show_Everywhere(winId());
+        platform::Windows::Get().Stay_Quiet(winId());
     }
     Stay_OnTop(Trigger::Now);
+}
+
+// Some window managers count the frame that the strip has not, and move it by that.
+void MainForm::Take_Place() {
+    if (live.Width == mappedAt.Width && live.Height == mappedAt.Height) {
+        Set_Bounds(mappedAt);
+    }
 }
 
 // What nobody sees of a strip that has just appeared is left until then: the icon of a window
@@ -207,9 +268,32 @@ void MainForm::Activate() {
         Picture1->Mark_Focus();
     }
     raise();
+    Take_Focus();
+}
+
+void MainForm::Take_Focus() {
+    usedBy = UsedBy::Keyboard;
     activateWindow();
     if (platform::Windows::Is_Provided()) {
         platform::Windows::Get().Activate(winId());
+    }
+}
+
+// The thin strip takes the focus only from one who works with the keyboard: the next blank typed
+// into another window would open it again.
+void MainForm::Settle_Focus() {
+    if (!isActiveWindow()) {
+        return;
+    }
+    if (usedBy == UsedBy::Keyboard) {
+        Picture2->setFocus(Qt::MouseFocusReason);
+        return;
+    }
+    if (QWidget* holder = focusWidget()) {
+        holder->clearFocus();
+    }
+    if (platform::Windows::Is_Provided()) {
+        platform::Windows::Get().Give_FocusBack(winId());
     }
 }
 

@@ -18,6 +18,8 @@
 #include "toolbar/toolbar_commands.h"
 #include "toolbar/toolbar_drag.h"
 
+#include <QEvent>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -59,6 +61,8 @@ public:
     const TwipsRect& Saved_Bounds() const { return saved; }
     // Shown if it was hidden, in front and with the keyboard focus: a second launch asks for it.
     void Activate();
+    // The keyboard focus, to the strip as it is: a menu opened from it by keyboard has gone.
+    void Take_Focus();
     // The mouse has been here just now.
     void MouseOver();
     // Millisecond clock of the last mouse activity.
@@ -101,6 +105,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -112,6 +117,7 @@ protected:
 
 private:
     enum class Trigger { Now, Paint };
+    enum class UsedBy { Keyboard, Mouse };
 
     void Build_Buttons();
     void Enable_Buttons();
@@ -119,9 +125,17 @@ private:
     void Take_LiveBounds();
     void UpdateToolbarRect();
     void Lay_Out();
+    void Cover_Excess();
     void Stay_OnTop(Trigger trigger);
+    void Watch_Order();
+    void Come_Up();
+    void Hold_Size(const QSize& least, const QSize& most);
+    void Stay_OnScreens();
+    void Note_User(QEvent::Type type);
+    void Settle_Focus();
 
     void Stand_Apart();
+    void Take_Place();
     void Finish_Look();
 
     // x: pixels on the strip, cursor: on the screen.
@@ -169,8 +183,11 @@ private:
     };
     std::optional<Collapsing> collapsing;
     StepTimer collapseTimer;
+    QTimer restackTimer;
+    UsedBy usedBy = UsedBy::Keyboard;
     HideMode LastHideMode = HideMode::Best;
     bool standsApart = false; // since the window was last mapped
+    TwipsRect mappedAt;       // where it was to stand then
     MouseButton LastCloseButton = MouseButton::Left;
     std::int16_t LastCloseShift = NoShiftKey;
     bool DisableAutoHide_Method = false;

@@ -11,11 +11,6 @@ namespace {
 
 constexpr int KeyStep = 10; // pixels
 
-DragScreen Screen_Now() {
-    auto& desktop = platform::Desktop::Get();
-    return {desktop.Screen_Size(), desktop.TwipsPerPixelX(), desktop.TwipsPerPixelY()};
-}
-
 // Of the event, not of now: when the program was busy, the mouse has moved on since.
 QPoint Screen_Place(const QMouseEvent& event) {
     return event.globalPosition().toPoint();
@@ -33,10 +28,14 @@ bool MainForm::event(QEvent* event) {
 // The message line drags the strip from anywhere on it, and never sizes it: its position counts
 // as 0.
 bool MainForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == windowHandle()) {
+        Note_User(event->type());
+    }
     if (watched == windowHandle() && event->type() == QEvent::Expose && !standsApart &&
         windowHandle()->isExposed()) {
         standsApart = true;
         Stand_Apart();
+        Take_Place();
         Finish_Look();
     }
     if (watched != Picture1 && watched != Label1) {
@@ -70,6 +69,15 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
+// A strip that is used by keyboard keeps the focus, one that is used with the mouse does not.
+void MainForm::Note_User(QEvent::Type type) {
+    if (type == QEvent::KeyPress) {
+        usedBy = UsedBy::Keyboard;
+    } else if (type == QEvent::MouseButtonPress) {
+        usedBy = UsedBy::Mouse;
+    }
+}
+
 void MainForm::mousePressEvent(QMouseEvent* event) {
     Form_MouseDown(To_MouseButton(event->button()), event->position().toPoint().x(),
                    Screen_Place(*event));
@@ -88,7 +96,7 @@ void MainForm::Form_MouseDown(MouseButton button, int x, const QPoint& cursor) {
     if (button != MouseButton::Left || Is_Collapsed()) {
         return;
     }
-    if (drag.Button_Down(x, width(), {cursor.x(), cursor.y()}, live, Screen_Now()) ==
+    if (drag.Button_Down(x, width(), {cursor.x(), cursor.y()}, live, DragScreen::Now()) ==
         GrabKind::Sizing) {
         setCursor(Qt::SizeHorCursor);
         sizePointer = true;
@@ -104,7 +112,7 @@ void MainForm::Form_MouseMove(Qt::MouseButtons held, int x, const QPoint& cursor
         Watch_SizeHandle(x);
         return;
     }
-    if (const auto bounds = drag.Mouse_Move({cursor.x(), cursor.y()}, live, Screen_Now())) {
+    if (const auto bounds = drag.Mouse_Move({cursor.x(), cursor.y()}, live, DragScreen::Now())) {
         Set_Bounds(*bounds);
     }
 }
@@ -170,7 +178,7 @@ bool MainForm::Keyboard_Drag(const QKeyEvent& event) {
     if (!event.modifiers().testFlag(Qt::ControlModifier) || Is_Collapsed()) {
         return false;
     }
-    const DragScreen screen = Screen_Now();
+    const DragScreen screen = DragScreen::Now();
     const int across =
         (event.key() == Qt::Key_Right ? 1 : 0) - (event.key() == Qt::Key_Left ? 1 : 0);
     const int down = (event.key() == Qt::Key_Down ? 1 : 0) - (event.key() == Qt::Key_Up ? 1 : 0);
@@ -184,9 +192,7 @@ bool MainForm::Keyboard_Drag(const QKeyEvent& event) {
             bounds.Width += step;
         }
     } else {
-        bounds.Left += step;
-        bounds.Top += down * KeyStep * screen.TwipsPerPixelY;
-        bounds = ToolbarDrag::Clamped(bounds, screen);
+        bounds = ToolbarDrag::Stepped(live, across * KeyStep, down * KeyStep, screen);
     }
     Set_Bounds(bounds);
     return true;

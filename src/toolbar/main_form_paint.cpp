@@ -8,8 +8,11 @@
 #include "toolbar/message_strip.h"
 #include "toolbar/toolbar_layout.h"
 
+#include <QApplication>
 #include <QPaintEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace {
 
@@ -62,4 +65,33 @@ void MainForm::Stay_OnTop(Trigger trigger) {
     topmostCalled = true;
     lastTopmost = clock.Milliseconds();
     platform::Windows::Get().Set_Topmost(winId(), true);
+    // Menus are no windows to the window manager, and would be covered.
+    if (QApplication::activePopupWidget() == nullptr) {
+        platform::Windows::Get().Raise(winId(), platform::RaiseOver::Others);
+    }
+}
+
+// Another window that is above as well may come over the strip, and nothing of the strip's own
+// would notice.
+void MainForm::Watch_Order() {
+    if (!platform::Windows::Is_Provided()) {
+        return;
+    }
+    restackTimer.setSingleShot(true);
+    connect(&restackTimer, &QTimer::timeout, this, &MainForm::Come_Up);
+    platform::Windows::Get().On_Restack([this] {
+        if (Global_TopForm && isVisible() && !restackTimer.isActive()) {
+            const auto since = platform::Clock::Get().Milliseconds_Since(lastTopmost);
+            restackTimer.start(std::clamp(TopmostPause - since, 0, TopmostPause));
+        }
+    });
+}
+
+void MainForm::Come_Up() {
+    if (collapsing || QApplication::activePopupWidget() != nullptr) {
+        restackTimer.start(TopmostPause);
+    } else if (Global_TopForm && isVisible()) {
+        lastTopmost = platform::Clock::Get().Milliseconds();
+        platform::Windows::Get().Raise(winId(), platform::RaiseOver::Others);
+    }
 }

@@ -5,13 +5,19 @@
 #include "controls/metrics.h"
 #include "platform/desktop.h"
 
-#include <optional>
+#include <QRect>
 
-// What the rules need to know of the screen.
+#include <optional>
+#include <vector>
+
+// What the rules need to know of the screens.
 struct DragScreen {
-    platform::Size Pixels;
+    std::vector<QRect> Screens; // the primary one first
     int TwipsPerPixelX = 15;
     int TwipsPerPixelY = 15;
+
+    // As the desktop has them now.
+    static DragScreen Now();
 };
 
 enum class GrabKind { Moving, Sizing };
@@ -23,14 +29,21 @@ public:
 
     static bool On_SizeHandle(int x, int scaleWidth) { return x >= scaleWidth - HandleWidth; }
     // Keeps the strip on the screen. A strip wider than the screen stands flush at its right.
-    static TwipsRect Clamped(TwipsRect bounds, const DragScreen& screen);
+    static TwipsRect Clamped(TwipsRect bounds, const QRect& screen, const DragScreen& scale);
+    // The bounds if all of them are on screens; else moved into the screen that holds their middle,
+    // or into the primary one. A strip wider than that stands flush at its left.
+    static TwipsRect Brought_In(const TwipsRect& bounds, const DragScreen& screen);
+    // A step with the keys. Flush with an edge, it goes on to the screen behind that edge.
+    static TwipsRect Stepped(const TwipsRect& bounds, int pixelsX, int pixelsY,
+                             const DragScreen& screen);
     static bool Width_Allowed(std::int64_t twips, const DragScreen& screen) {
         return twips > std::int64_t{WidthFloor} * screen.TwipsPerPixelX;
     }
 
     GrabKind Button_Down(int x, int scaleWidth, platform::Point cursor, const TwipsRect& bounds,
                          const DragScreen& screen);
-    // The bounds that the strip takes now; nothing when it stays as it is.
+    // The bounds that the strip takes now, on the screen that holds the cursor; nothing when it
+    // stays as it is.
     std::optional<TwipsRect> Mouse_Move(platform::Point cursor, const TwipsRect& bounds,
                                         const DragScreen& screen) const;
     // What has ended, if anything.

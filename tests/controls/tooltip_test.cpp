@@ -59,11 +59,11 @@ TEST(TooltipLayout, Lines_are_cut_at_the_last_blank_that_fits) {
 }
 
 TEST(TooltipLayout, The_tip_stands_beside_the_picture_and_on_the_screen) {
-    const QSize screen(800, 600);
+    const QRect screen(1024, 768, 800, 600);
     const QSize tip(200, 100);
-    EXPECT_EQ(Place_Tooltip({100, 50, 16, 16}, tip, screen), QPoint(120, 50));
-    EXPECT_EQ(Place_Tooltip({700, 590, 16, 16}, tip, screen), QPoint(496, 500));
-    EXPECT_EQ(Place_Tooltip({100, 50, 16, 16}, {900, 700}, screen), QPoint(0, 0));
+    EXPECT_EQ(Place_Tooltip({1124, 818, 16, 16}, tip, screen), QPoint(1144, 818));
+    EXPECT_EQ(Place_Tooltip({1724, 1358, 16, 16}, tip, screen), QPoint(1520, 1268));
+    EXPECT_EQ(Place_Tooltip({1124, 818, 16, 16}, {900, 700}, screen), QPoint(1024, 768));
 }
 
 class TooltipPictureTest : public testing::Test {

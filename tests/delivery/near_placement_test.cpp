@@ -6,7 +6,7 @@ namespace {
 
 struct Case {
     const char* name;
-    platform::Size screen;
+    QSize screen;
     ToolbarRect toolbar;
     std::vector<int> lefts; // of the windows, in the order in which they come
     bool upward;
@@ -27,10 +27,14 @@ const Case Cases[] = {
      {1920, 1080},
      {300, 0, 633, 20},
      {633, 46, 887, 1141, 1395, 1649},
-     false}};
+     false},
+    {"a wide toolbar: below it", {1024, 768}, {162, 0, 862, 20}, {162, 416, 670}, false},
+    {"full width, and above it", {1024, 768}, {0, 748, 1024, 768}, {0, 254, 508, 762}, true},
+    {"wider than the screen", {800, 600}, {-200, 0, 800, 20}, {0, 254, 508}, false}};
 
 NearPlacement Place(std::vector<NearWindowEntry>& table, int number, const Case& row) {
-    return Place_NearWindow(table, {number, number, 7, 1000 + number}, row.toolbar, row.screen);
+    return Place_NearWindow(table, {number, number, 7, 1000 + number}, row.toolbar,
+                            {QPoint(), row.screen});
 }
 
 // Which of the used entries are edges, as "01".
@@ -68,6 +72,33 @@ TEST(NearPlacement, Fifteen_reminders_fill_the_sides_and_then_wait_in_turn) {
         }
         EXPECT_EQ(Place(table, 0, row).Decision, NearDecision::AlreadyShown);
         EXPECT_EQ(Place(table, 14, row).Decision, NearDecision::AlreadyShown);
+    }
+}
+
+// On the second of two screens the same as on the first.
+TEST(NearPlacement, A_window_is_at_most_20_pixels_over_any_edge_of_the_toolbars_screen) {
+    const struct {
+        const char* name;
+        ToolbarRect toolbar;
+        int height;
+        QPoint place; // of the first window
+    } rows[] = {{"beside, at the top", {345, 0, 678, 20}, 77, {678, 0}},
+                {"beside, at the bottom", {345, 748, 678, 768}, 77, {678, 691}},
+                {"below a wide one", {162, 0, 862, 20}, 77, {162, 20}},
+                {"above a wide one", {162, 748, 862, 768}, 140, {162, 608}},
+                {"a toolbar half off the screen", {-100, 760, 233, 780}, 77, {233, 703}},
+                {"a toolbar far off the screen", {-2000, -900, -1667, -880}, 77, {0, 0}}};
+    for (const QPoint& origin : {QPoint(), QPoint(1024, 0), QPoint(-1024, 768)}) {
+        const QRect screen(origin, QSize(1024, 768));
+        for (const auto& row : rows) {
+            std::vector<NearWindowEntry> table(21);
+            const ToolbarRect toolbar{row.toolbar.Left + origin.x(), row.toolbar.Top + origin.y(),
+                                      row.toolbar.Right + origin.x(),
+                                      row.toolbar.Bottom + origin.y()};
+            const int x = Place_NearWindow(table, {1, 1, 7, 0}, toolbar, screen).X;
+            const int y = NearWindow_Top(table[0], toolbar, row.height, screen);
+            EXPECT_EQ(QPoint(x, y), row.place + origin) << row.name;
+        }
     }
 }
 
@@ -116,9 +147,7 @@ TEST(NearPlacement, The_tables_grow_and_the_centred_window_takes_a_reminder_once
     }
     EXPECT_EQ(nearTable.size() + centerTable.size(), 41U + 41U);
     EXPECT_EQ(Take_CenterEntry(centerTable, {90, 4, 7, 0}), -1);
-    EXPECT_EQ(NearWindow_Top({0, 748, 333, 768}, true, 77), 691);
-    EXPECT_EQ(NearWindow_Top({0, 30, 333, 50}, false, 77), 30);
-    EXPECT_EQ(Centered_Place({1024, 768}, {253, 77}), (platform::Point{385, 345}));
+    EXPECT_EQ(Centered_Place({1024, 0, 1024, 768}, {253, 77}), QPoint(1409, 345));
 }
 
 } // namespace

@@ -125,6 +125,8 @@ TEST(WithoutX11, windows_and_desktop_do_no_harm) {
     for (const platform::WindowId window :
          {platform::WindowId{0}, platform::WindowId{widget.winId()}}) {
         windows->Set_Topmost(window, true);
+        windows->Raise(window, platform::RaiseOver::Others);
+        windows->Show_Everywhere(window);
         windows->Leave_TaskBar(window);
         windows->Activate(window);
         windows->Set_Alpha(window, 100);
@@ -133,7 +135,7 @@ TEST(WithoutX11, windows_and_desktop_do_no_harm) {
     }
     desktop->Minimize_All();
     EXPECT_EQ(desktop->Foreground_Title(), QString());
-    EXPECT_EQ(desktop->Screen_Size(), (platform::Size{800, 800}));
+    EXPECT_EQ(desktop->Screens(), std::vector{QRect(0, 0, 800, 800)});
     EXPECT_EQ(desktop->TwipsPerPixelX(), 15);
     RecordingMedia media;
     desktop->Beep();

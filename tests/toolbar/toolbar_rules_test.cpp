@@ -43,8 +43,10 @@ TEST(ToolbarLayout, A_width_too_small_for_a_message_line_leaves_none) {
     EXPECT_EQ(Layout_At(220).Shape2.width(), 1);
 }
 
-// A screen of 800 by 600 with 15 twips a pixel; the strip is 333 by 20 pixels.
-const DragScreen Screen{{800, 600}, 15, 15};
+// A screen of 800 by 600 with 15 twips a pixel, a wider one at its right, and one below that;
+// the strip is 333 by 20 pixels.
+const QRect First(0, 0, 800, 600);
+const DragScreen Screen{{First, {800, 0, 1024, 768}, {800, 768, 1024, 768}}, 15, 15};
 TwipsRect Strip_At(int left, int top, int width = 333) {
     return {left * 15, top * 15, width * 15, 300};
 }
@@ -59,6 +61,9 @@ TEST(ToolbarDrag, The_strip_follows_the_cursor_and_stops_flush_with_the_edges) {
     const Case cases[] = {
         {"in the open", {250, 105}, Strip_At(200, 100)},
         {"top left corner", {10, 2}, Strip_At(0, 0)},
+        {"the edge that the screens have in common", {800, 5}, Strip_At(800, 0)},
+        {"onto the screen behind it", {1500, 300}, Strip_At(1450, 295)},
+        {"a screen below", {1500, 800}, Strip_At(1450, 795)},
         {"bottom right corner", {799, 599}, Strip_At(467, 580)},
         {"top right corner", {799, 0}, Strip_At(467, 0)},
         {"bottom left corner", {0, 599}, Strip_At(0, 580)},
@@ -76,7 +81,35 @@ TEST(ToolbarDrag, The_strip_follows_the_cursor_and_stops_flush_with_the_edges) {
 }
 
 TEST(ToolbarDrag, A_strip_wider_than_the_screen_keeps_its_close_button_on_it) {
-    EXPECT_EQ(ToolbarDrag::Clamped(Strip_At(-10, 0, 1000), Screen), Strip_At(-200, 0, 1000));
+    EXPECT_EQ(ToolbarDrag::Clamped(Strip_At(-10, 0, 1000), First, Screen), Strip_At(-200, 0, 1000));
+}
+
+TEST(ToolbarDrag, A_step_from_the_edge_of_a_screen_goes_on_to_the_one_behind_it) {
+    const std::tuple<const char*, TwipsRect, int, int, TwipsRect> rows[] = {
+        {"in the open", Strip_At(100, 50), 10, 0, Strip_At(110, 50)},
+        {"up to the edge", Strip_At(460, 50), 10, 0, Strip_At(467, 50)},
+        {"over it", Strip_At(467, 50), 10, 0, Strip_At(800, 50)},
+        {"and back", Strip_At(800, 50), -10, 0, Strip_At(467, 50)},
+        {"down", Strip_At(900, 748), 0, 10, Strip_At(900, 768)},
+        {"no screen below", Strip_At(100, 580), 0, 10, Strip_At(100, 580)},
+        {"no screen above", Strip_At(100, 0), 0, -10, Strip_At(100, 0)}};
+    for (const auto& [name, from, across, down, to] : rows) {
+        EXPECT_EQ(ToolbarDrag::Stepped(from, across, down, Screen), to) << name;
+    }
+}
+
+TEST(ToolbarDrag, A_strip_off_the_screens_is_brought_back_in) {
+    const std::tuple<const char*, TwipsRect, TwipsRect> rows[] = {
+        {"on one", Strip_At(100, 50), Strip_At(100, 50)},
+        {"across two", Strip_At(700, 50), Strip_At(700, 50)},
+        {"far right", Strip_At(2000, 50), Strip_At(467, 50)},
+        {"far up and left", Strip_At(-3000, -3000), Strip_At(0, 0)},
+        {"its end past the edge", Strip_At(1600, 50), Strip_At(1491, 50)},
+        {"below the lower of two", Strip_At(300, 590), Strip_At(300, 580)},
+        {"wider than all", Strip_At(-5, 0, 5000), Strip_At(0, 0, 5000)}};
+    for (const auto& [name, from, to] : rows) {
+        EXPECT_EQ(ToolbarDrag::Brought_In(from, Screen), to) << name;
+    }
 }
 
 TEST(ToolbarDrag, Only_the_last_four_pixels_size) {
@@ -126,9 +159,13 @@ TEST(HidePlace, The_nearest_edge_is_tried_in_the_order_top_bottom_left_right) {
         {"centred as far as whole pixels go", 233, 300, HideMode::Left},
         {"a pixel right of it", 234, 300, HideMode::Right},
     };
-    for (const Case& c : cases) {
-        const ToolbarRect bounds{c.left, c.top, c.left + 333, c.top + 20};
-        EXPECT_EQ(Best_HideMode(bounds, 333, {800, 600}), c.mode) << c.name;
+    for (const QPoint& origin : {QPoint(), QPoint(1024, 768)}) {
+        for (const Case& c : cases) {
+            const int left = c.left + origin.x();
+            const int top = c.top + origin.y();
+            const ToolbarRect bounds{left, top, left + 333, top + 20};
+            EXPECT_EQ(Best_HideMode(bounds, 333, {origin, QSize(800, 600)}), c.mode) << c.name;
+        }
     }
 }
 

@@ -4,8 +4,8 @@
 #include "controls/icons.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/wb_button.h"
-#include "platform/desktop.h"
 #include "platform/window.h"
 
 #include <QCloseEvent>
@@ -254,9 +254,8 @@ void frmClock::On_Unload() {
 }
 
 void frmClock::Show_At(int left, int top) {
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    move(std::max(std::min(left, screen.width - width()), 0),
-         std::max(std::min(top, screen.height - height()), 0));
+    const QRect screen = Screen_At(target ? target->mapToGlobal(QPoint()) : QPoint(left, top));
+    move(Moved_Into(screen, {QPoint(left, top), size()}).topLeft());
     // Asked for the id of a window that is not made yet, the toolkit makes all children of the
     // owner native windows.
     create();
@@ -271,6 +270,7 @@ void frmClock::Show_At(int left, int top) {
 // Above the others also when another window has taken the top since.
 void frmClock::paintEvent(QPaintEvent*) {
     platform::Windows::Get().Set_Topmost(winId(), true);
+    platform::Windows::Get().Raise(winId(), platform::RaiseOver::Others);
     QPainter painter(this);
     Draw_Frame(painter, rect(), palette::To_Color(palette::Outline));
 }

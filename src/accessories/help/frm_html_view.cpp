@@ -5,6 +5,7 @@
 #include "accessories/help/help_rules.h"
 #include "controls/chk_box.h"
 #include "controls/help_topic.h"
+#include "controls/the_screen.h"
 #include "platform/window.h"
 
 #include <QEvent>
@@ -78,9 +79,7 @@ void frmHTMLview::SetHelpPos() {
     // The window manager's frame is known only once it is there.
     const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
     const QSize frame = isVisible() ? frameGeometry().size() : size() + QSize(0, title);
-    const platform::Point place = Help_Place(toolbar, {frame.width(), frame.height()},
-                                             platform::Desktop::Get().Screen_Size());
-    move(place.x, place.y);
+    move(Help_Place(toolbar, frame, The_Screen()));
 }
 
 void frmHTMLview::EnableTimer() {

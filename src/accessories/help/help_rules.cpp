@@ -1,5 +1,7 @@
 #include "accessories/help/help_rules.h"
 
+#include "controls/the_screen.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -42,12 +44,10 @@ bool Is_WebLink(const QUrl& url) {
            (url.scheme() == "http"_L1 || url.scheme() == "https"_L1);
 }
 
-platform::Point Help_Place(const ToolbarRect& toolbar, const platform::Size& viewer,
-                           const platform::Size& screen) {
-    const int above = toolbar.Top - FromToolbar - viewer.height;
+QPoint Help_Place(const ToolbarRect& toolbar, const QSize& viewer, const QRect& screen) {
+    const int above = toolbar.Top - FromToolbar - viewer.height();
     int top = toolbar.Bottom + FromToolbar;
-    if (top + viewer.height > screen.height)
-        top = above >= 0 ? above : screen.height - viewer.height;
-    const int left = std::min(toolbar.Left, screen.width - viewer.width);
-    return {std::max(left, 0), std::max(top, 0)};
+    if (top + viewer.height() > screen.bottom() + 1 && above >= screen.top())
+        top = above;
+    return Moved_Into(screen, {QPoint(toolbar.Left, top), viewer}).topLeft();
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "controls/toolbar.h"
-#include "platform/desktop.h"
 
+#include <QRect>
 #include <QString>
 #include <QUrl>
 
@@ -19,5 +19,5 @@ bool Is_WebLink(const QUrl& url);
 
 // The top left corner of a viewer of this size, its frame included; pixels. Below the toolbar, or
 // above it where there is no room below; always on the screen, as far as it fits there.
-platform::Point Help_Place(const ToolbarRect& toolbar, const platform::Size& viewer,
-                           const platform::Size& screen);
+QPoint Help_Place(const ToolbarRect& toolbar, const QSize& viewer,
+                           const QRect& screen);

@@ -5,6 +5,7 @@
 #include "controls/chk_box.h"
 #include "controls/help_topic.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/timers.h"
 #include "controls/toolbar.h"
 #include "controls/wb_button.h"
@@ -113,10 +114,9 @@ void frmWizard::Next_Click() {
 
 void frmWizard::Option1_Click(int index) {
     const ToolbarRect bounds = Global_Toolbar->Bounds();
-    const platform::Point place =
-        Place_Of(static_cast<ToolbarPlace>(index), bounds.Right - bounds.Left,
-                 platform::Desktop::Get().Screen_Size().width, remembered);
-    Global_Toolbar->Move_To(place.x, place.y);
+    const QPoint place = Place_Of(static_cast<ToolbarPlace>(index), bounds.Right - bounds.Left,
+                                  The_Screen(), remembered);
+    Global_Toolbar->Move_To(place.x(), place.y());
 }
 
 void frmWizard::Enable_Buttons(bool enabled) {
@@ -145,7 +145,7 @@ void frmWizard::Restore_Toolbar() {
         hideTest.Cancel();
         Global_Toolbar->AutoHide_ShowProc(true);
     }
-    Global_Toolbar->Move_To(remembered.x, remembered.y);
+    Global_Toolbar->Move_To(remembered.x(), remembered.y());
 }
 
 bool frmWizard::Query_Unload(UnloadMode) {

@@ -59,7 +59,7 @@ private:
     QLineEdit* Text1 = nullptr;
     wbButton* TestHideButton = nullptr;
     int currentPage = 0;
-    platform::Point remembered; // of the toolbar, pixels
+    QPoint remembered; // of the toolbar, pixels
     bool finishing = false;
     HideTest hideTest;
 };

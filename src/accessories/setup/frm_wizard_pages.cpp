@@ -3,6 +3,7 @@
 #include "controls/chk_box.h"
 #include "controls/help_topic.h"
 #include "controls/metrics.h"
+#include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 
@@ -58,8 +59,8 @@ void Add_Line(QWidget* form, const QRect& place, QFrame::Shape shape) {
 
 void frmWizard::Add_Frame() {
     setFixedSize(FormWidth, FormHeight);
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    move((screen.width - FormWidth) / 2, (screen.height - FormHeight) / 2);
+    const QPoint middle(FormWidth / 2, FormHeight / 2);
+    move(The_Screen().center() - middle);
     auto* banner = new QWidget(this);
     banner->setGeometry(0, 0, FormWidth, BannerHeight);
     banner->setAutoFillBackground(true);

@@ -97,15 +97,15 @@ QString Apply_Wizard_Settings(const WizardView& view) {
                          u"\r\n\r\nThe default system format will be used."_s;
 }
 
-platform::Point Place_Of(ToolbarPlace place, int toolbarWidth, int screenWidth,
-                         const platform::Point& manual) {
+QPoint Place_Of(ToolbarPlace place, int toolbarWidth, const QRect& screen, const QPoint& manual) {
+    const int free = screen.width() - toolbarWidth;
     switch (place) {
     case ToolbarPlace::TopLeft:
-        return {0, 0};
+        return screen.topLeft();
     case ToolbarPlace::TopCenter:
-        return {(screenWidth - toolbarWidth) / 2, 0};
+        return screen.topLeft() + QPoint(free / 2, 0);
     case ToolbarPlace::TopRight:
-        return {screenWidth - toolbarWidth, 0};
+        return screen.topLeft() + QPoint(free, 0);
     case ToolbarPlace::Manual:
         break;
     }

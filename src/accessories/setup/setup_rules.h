@@ -2,8 +2,7 @@
 // here.
 #pragma once
 
-#include "platform/desktop.h"
-
+#include <QRect>
 #include <QString>
 
 #include <array>
@@ -44,8 +43,7 @@ QString Apply_Wizard_Settings(const WizardView& view);
 
 enum class ToolbarPlace { TopLeft, TopCenter, TopRight, Manual };
 // Pixels; manual: where the toolbar stood when the wizard came.
-platform::Point Place_Of(ToolbarPlace place, int toolbarWidth, int screenWidth,
-                         const platform::Point& manual);
+QPoint Place_Of(ToolbarPlace place, int toolbarWidth, const QRect& screen, const QPoint& manual);
 
 struct WizardStep {
     const char16_t* Tag; // the step's name stands before the semicolon

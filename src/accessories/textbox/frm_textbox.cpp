@@ -5,6 +5,7 @@
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/window.h"
@@ -25,24 +26,22 @@ constexpr std::int32_t TopmostPause = 1000; // ms; being put on top can ask for 
 std::optional<WindowPlace> savedPlace;
 QPointer<frmTextbox> textbox;
 
-platform::Size Frame_Size(const QWidget* window) {
-    if (window == nullptr)
-        return TextboxClientSize;
-    return {window->frameGeometry().width(), window->frameGeometry().height()};
+QSize Frame_Size(const QWidget* window) {
+    return window == nullptr ? TextboxClientSize : window->frameGeometry().size();
 }
 
 // Where the box shall stand, pixels.
-platform::Point Wanted_Place(const QWidget* window) {
+QPoint Wanted_Place(const QWidget* window) {
     const WindowPlace place = savedPlace.value_or(WindowPlace());
     return Reachable_Place({TwipsX_To_Pixels(place.Left), TwipsY_To_Pixels(place.Top)},
-                           Frame_Size(window), platform::Desktop::Get().Screen_Size());
+                           Frame_Size(window), platform::Desktop::Get().Screens(), The_Screen());
 }
 
-void Save_Place(platform::Point place) {
+void Save_Place(const QPoint& place) {
     const WindowPlace before = savedPlace.value_or(WindowPlace());
     // What stands on a pixel's fraction stays as it is.
-    if (TwipsX_To_Pixels(before.Left) != place.x || TwipsY_To_Pixels(before.Top) != place.y)
-        savedPlace = WindowPlace{PixelsY_To_Twips(place.y), PixelsX_To_Twips(place.x)};
+    if (TwipsX_To_Pixels(before.Left) != place.x() || TwipsY_To_Pixels(before.Top) != place.y())
+        savedPlace = WindowPlace{PixelsY_To_Twips(place.y()), PixelsX_To_Twips(place.x())};
 }
 
 } // namespace
@@ -116,13 +115,12 @@ frmTextbox::frmTextbox() : Form(nullptr, Qt::Tool) {
     colors.setColor(QPalette::Base, palette::To_Color(palette::Message_Back));
     setPalette(colors);
     Text1 = new TextboxText(this);
-    resize(TextboxClientSize.width, TextboxClientSize.height);
+    resize(TextboxClientSize);
 }
 
 void frmTextbox::Show_Box() {
-    const platform::Point place = Wanted_Place(this);
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    move(place.x, place.y);
+    move(Wanted_Place(this));
     platform::Windows::Get().Leave_TaskBar(winId());
     platform::Windows::Get().Set_Topmost(winId(), true);
     show();
@@ -145,7 +143,7 @@ bool frmTextbox::Query_Unload(UnloadMode mode) {
 
 void frmTextbox::Note_Place() {
     if (isVisible() && !isMinimized())
-        Save_Place({x(), y()});
+        Save_Place(pos());
 }
 
 void frmTextbox::showEvent(QShowEvent*) {
@@ -179,6 +177,7 @@ void frmTextbox::Stay_OnTop() {
         return;
     lastTopmost = clock.Milliseconds();
     platform::Windows::Get().Set_Topmost(winId(), true);
+    platform::Windows::Get().Raise(winId(), platform::RaiseOver::Others);
 }
 
 void Init_Textbox() {

@@ -1,7 +1,8 @@
 #include "accessories/textbox/textbox_rules.h"
 
+#include "controls/the_screen.h"
+
 #include <algorithm>
-#include <cstdint>
 
 namespace {
 
@@ -10,12 +11,13 @@ constexpr int TitleHeight = 20;
 
 } // namespace
 
-platform::Point Reachable_Place(platform::Point place, platform::Size box, platform::Size screen) {
-    const std::int64_t right = std::int64_t{place.x} + box.width;
-    const bool isReachable = right >= LeastGrip && place.x <= screen.width - LeastGrip &&
-                             place.y >= 0 && place.y <= screen.height - TitleHeight;
-    if (isReachable)
+QPoint Reachable_Place(const QPoint& place, const QSize& box, const std::vector<QRect>& screens,
+                       const QRect& home) {
+    const auto isReachable = [&](const QRect& screen) {
+        const QRect title = screen & QRect(place, QSize(box.width(), TitleHeight));
+        return title.width() >= LeastGrip && title.height() == TitleHeight;
+    };
+    if (std::any_of(screens.begin(), screens.end(), isReachable))
         return place;
-    return {std::clamp(place.x, 0, std::max(screen.width - box.width, 0)),
-            std::clamp(place.y, 0, std::max(screen.height - box.height, 0))};
+    return Moved_Into(home, {place, box}).topLeft();
 }

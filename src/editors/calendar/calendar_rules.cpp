@@ -44,13 +44,8 @@ int Typed_Year(const QString& text) {
     return typed.left(std::min<qsizetype>(end - typed.begin(), YearDigits)).toInt();
 }
 
-QPoint Place_Beside(const QRect& anchor, const QSize& window, const QSize& screen) {
-    int left = anchor.x() + anchor.width() + Gap;
-    if (left + window.width() > screen.width())
-        left = anchor.x() - Gap - window.width();
-    const auto inside = [](int place, int length, int room) {
-        return std::max(0, std::min(place, room - length));
-    };
-    return {inside(left, window.width(), screen.width()),
-            inside(anchor.y(), window.height(), screen.height())};
+QPoint Place_Beside(const QRect& anchor, const QSize& window, const QRect& screen) {
+    const int right = anchor.x() + anchor.width() + Gap;
+    const bool fits = right + window.width() <= screen.right() + 1;
+    return {fits ? right : anchor.x() - Gap - window.width(), anchor.y()};
 }

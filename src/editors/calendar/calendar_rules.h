@@ -24,6 +24,5 @@ QStringList Offered_Years(int presentYear);
 // The number at the start of what was typed; 0 when there is none.
 int Typed_Year(const QString& text);
 
-// Top left corner for a window of this size: right of the anchor, else left of it, always on the
-// screen as far as it fits. Screen pixels.
-QPoint Place_Beside(const QRect& anchor, const QSize& window, const QSize& screen);
+// Top left corner for a window of this size: right of the anchor, else left of it. Screen pixels.
+QPoint Place_Beside(const QRect& anchor, const QSize& window, const QRect& screen);

@@ -4,12 +4,13 @@
 #include "controls/combo_name.h"
 #include "controls/help_topic.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
 #include "editors/calendar/calendar_rules.h"
 #include "editors/calendar/day_grid.h"
-#include "platform/desktop.h"
 #include "platform/dialogs.h"
+#include "platform/window.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -122,15 +123,25 @@ void frmCalendar::Show_DateText(const QString& text) {
     Show_Date(date.day, date.month, date.year);
 }
 
-void frmCalendar::Present_Beside(const QRect& anchor) {
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    // The window manager's frame is known only once it is there.
-    const QSize frame(0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
-    move(Place_Beside(anchor, size() + frame, {screen.width, screen.height}));
+QSize frmCalendar::Framed_Size() const {
+    // The window manager's frame is known only once it is there: the style's title bar stands for
+    // it.
+    return size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+}
+
+void frmCalendar::Present_Beside(const QRect& anchor, const QWidget& field) {
+    const QRect screen = Screen_At(field.mapToGlobal(field.rect().center()));
+    Present_At(Place_Beside(anchor, Framed_Size(), screen), field);
+}
+
+void frmCalendar::Present_At(const QPoint& place, const QWidget& field) {
+    const QRect taken(field.mapToGlobal(QPoint(0, 0)), field.size());
+    move(Moved_Clear(Screen_At(taken.center()), {place, Framed_Size()}, taken).topLeft());
     Present();
 }
 
 void frmCalendar::showEvent(QShowEvent* event) {
+    platform::Windows::Get().Leave_TaskBar(winId());
     Form::showEvent(event);
     DaysLabel->Focus_Day();
 }

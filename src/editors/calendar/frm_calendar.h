@@ -26,8 +26,10 @@ public:
     void Show_Date(int DayOfMonth, int Month, int Year);
     // The date of a text in the user's format, or the present month when it is none.
     void Show_DateText(const QString& text);
-    // Shows it beside a rectangle of the screen, pixels.
-    void Present_Beside(const QRect& anchor);
+    // Shows it beside a window, or at a place; on the screen of the field that it fills, and clear
+    // of it. Pixels of the screen.
+    void Present_Beside(const QRect& anchor, const QWidget& field);
+    void Present_At(const QPoint& place, const QWidget& field);
 
 Q_SIGNALS:
     void DateSelected(const QString& NewDate);
@@ -36,6 +38,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QSize Framed_Size() const;
     void Build_Controls();
     void Fill_Boxes();
     void Combo_Changed();

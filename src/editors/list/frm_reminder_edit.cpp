@@ -8,6 +8,7 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
+#include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "editors/list/card_list.h"
@@ -54,7 +55,7 @@ constexpr int RefreshTime = 60000;
 
 // What AdjustForSmallScreen takes from the list and the window.
 int Screen_Loss() {
-    return platform::Desktop::Get().Screen_Size().height < SmallScreenHeight ? SmallScreenLoss : 0;
+    return The_Screen().height() < SmallScreenHeight ? SmallScreenLoss : 0;
 }
 
 } // namespace
@@ -227,9 +228,9 @@ void frmReminderEdit::Add_Shortcuts() {
 }
 
 void frmReminderEdit::Place_OnScreen() {
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    move(std::max(0, (screen.width - width()) / 2),
-         std::max(LeastTop, (screen.height - height() - FrameHeight) / 2));
+    const QRect screen = The_Screen();
+    move(screen.left() + std::max(0, (screen.width() - width()) / 2),
+         screen.top() + std::max(LeastTop, (screen.height() - height() - FrameHeight) / 2));
 }
 
 void frmReminderEdit::paintEvent(QPaintEvent*) {

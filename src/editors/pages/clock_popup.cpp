@@ -2,7 +2,6 @@
 
 #include "accessories/clock/frm_clock.h"
 #include "editors/pages/page_controls.h"
-#include "editors/pages/popup_place.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 
@@ -13,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int FocusInterval = 200; // ms
+constexpr int ClockGap = 4;        // pixels
 
 } // namespace
 
@@ -57,10 +57,7 @@ void ClockPopup::Show_Clock_For_Textbox(const QString& name, QLineEdit* box, int
     target = name;
     form.Set_wTextBox(box);
     form.SetTime(minutes);
-    const int right = page.mapToGlobal(QPoint(page.width(), 0)).x();
-    const platform::Point place = Clock_Place(right, fieldTop, {form.width(), form.height()},
-                                              platform::Desktop::Get().Screen_Size());
-    form.Show_At(place.x, place.y);
+    form.Show_At(page.mapToGlobal(QPoint(page.width(), 0)).x() + ClockGap, fieldTop);
     // While the user types in the field the clock stays beside it.
     if (!fieldHasFocus)
         frmClockFocusTimer.start();

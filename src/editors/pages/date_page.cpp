@@ -3,8 +3,6 @@
 #include "controls/form.h"
 #include "core/date_text.h"
 #include "editors/pages/date_page_view.h"
-#include "editors/pages/popup_place.h"
-#include "platform/desktop.h"
 #include "platform/dialogs.h"
 
 #include <QStyle>
@@ -16,6 +14,8 @@ namespace {
 
 constexpr int ErrLabelTime = 8000; // ms
 constexpr QSize PageSize(470, 440);
+constexpr int CalendarRight = 480; // of the window's left edge, pixels
+constexpr int CalendarAbove = 100; // the button
 
 } // namespace
 
@@ -100,15 +100,9 @@ void DatePage::wbButton2_Click(int index) {
     const CalendarDate start =
         Calendar_Start(view->Read_State(), static_cast<DateField>(index), Read_Moment());
     view->Calendar->Show_Date(start.day, start.month, start.year);
-    // The window manager's frame is known only once it is there: the style's title bar stands for
-    // it.
-    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, view->Calendar);
-    const platform::Point place = Calendar_Place(
-        {window()->x(), window()->y()}, view->wbButton2[static_cast<std::size_t>(index)]->y(),
-        {view->Calendar->width(), view->Calendar->height() + frame},
-        platform::Desktop::Get().Screen_Size());
-    view->Calendar->move(place.x, place.y);
-    view->Calendar->Present();
+    const auto at = static_cast<std::size_t>(index);
+    const QPoint fromOwner(CalendarRight, view->wbButton2[at]->y() - CalendarAbove);
+    view->Calendar->Present_At(window()->pos() + fromOwner, *view->Text4[at]);
 }
 
 void DatePage::Text4_SetDate_FromCalendar(int Index, const QString& NewDate) {

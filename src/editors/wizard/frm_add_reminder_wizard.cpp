@@ -191,7 +191,7 @@ void frmAddReminderWizard::Open_Calendar(QPointer<frmCalendar>& calendar, const 
         connect(calendar, &frmCalendar::DateSelected, this, taker);
     }
     calendar->Show_DateText(date);
-    calendar->Present_Beside(frameGeometry());
+    calendar->Present_Beside(frameGeometry(), *Page(CurrentPage)->Date_Field());
 }
 
 void frmAddReminderWizard::frmCalendarCopy_DateSelected(const QString& NewDate) {

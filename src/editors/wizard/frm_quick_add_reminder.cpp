@@ -136,7 +136,7 @@ void frmQuickAddReminder::Calendar_Click() {
                 &frmQuickAddReminder::frmCalendarCopy_DateSelected);
     }
     frmCalendarCopy->Show_DateText(Text5->text());
-    frmCalendarCopy->Present_Beside(frameGeometry());
+    frmCalendarCopy->Present_Beside(frameGeometry(), *Text5);
 }
 
 void frmQuickAddReminder::frmCalendarCopy_DateSelected(const QString& NewDate) {

@@ -83,3 +83,7 @@ void WizardStartPage::Show_State() {
 QWidget* WizardStartPage::First_Field() const {
     return Option1[static_cast<std::size_t>(state.Option1)];
 }
+
+QWidget* WizardStartPage::Date_Field() const {
+    return Text8;
+}

@@ -11,6 +11,7 @@ public:
     WizardStartPage(WizardState& wizardState, QWidget* parent);
     void Show_State() override;
     QWidget* First_Field() const override;
+    QWidget* Date_Field() const override;
 
 private:
     void Build_Choices();

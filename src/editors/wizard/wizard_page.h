@@ -18,6 +18,8 @@ public:
     virtual void Show_State() {}
     // Null: the page has none.
     virtual QWidget* First_Field() const { return nullptr; }
+    // That the calendar fills.
+    virtual QWidget* Date_Field() const { return First_Field(); }
 
 Q_SIGNALS:
     // For the date box of the page that is in view.

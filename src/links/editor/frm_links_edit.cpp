@@ -6,6 +6,7 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
 #include "links/editor/links_editor.h"
@@ -61,8 +62,9 @@ frmLinksEdit::frmLinksEdit() {
     Build_Buttons();
     Load_Global_LinksArray_To_List();
     list->setFocus();
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
-    move(std::max((screen.width - width()) / 2, 0), std::max((screen.height - height()) / 2, 0));
+    const QRect screen = The_Screen();
+    move(screen.left() + std::max((screen.width() - width()) / 2, 0),
+         screen.top() + std::max((screen.height() - height()) / 2, 0));
 }
 
 void frmLinksEdit::Build_List() {

@@ -1,6 +1,7 @@
 #include "links/menu/links_menu.h"
 
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/timers.h"
 #include "controls/unload_queue.h"
 #include "links/menu/menu_placement.h"
@@ -12,6 +13,7 @@ namespace {
 
 QPointer<LinksMenuV2> rootMenu;
 std::function<void()> menuGone;
+std::function<void()> focusReturned;
 
 // Stops itself; what the root menu led to must not outlive it.
 void Win98HideForms_Tick() {
@@ -43,6 +45,11 @@ void Tell_MenuGone() {
         gone();
 }
 
+void Tell_FocusReturned() {
+    if (focusReturned)
+        focusReturned();
+}
+
 bool Has_Rows() {
     return Global_LinksRoot && (Global_LinksRoot->Get_TotalLinks() != -1 ||
                                 Global_LinksRoot->Get_TotalCategories() != -1);
@@ -50,8 +57,9 @@ bool Has_Rows() {
 
 } // namespace
 
-void Init_LinksMenu(std::function<void()> gone) {
+void Init_LinksMenu(std::function<void()> gone, std::function<void()> returned) {
     menuGone = std::move(gone);
+    focusReturned = std::move(returned);
     On_LinksTree_Changed(Take_NewTree);
     if (Global_Timers != nullptr)
         Global_Timers->On_Tick(TimerName::Win98HideForms, Win98HideForms_Tick);
@@ -65,11 +73,11 @@ void Open_LinksMenu(MenuOpenedBy how, const QRect& strip) {
     Release_OldMenu();
     rootMenu = new LinksMenuV2(how, strip);
     QObject::connect(rootMenu, &LinksMenuV2::Menu_Gone, Tell_MenuGone);
+    QObject::connect(rootMenu, &LinksMenuV2::Focus_Returned, Tell_FocusReturned);
     // A button pressed on the toolbar, and AutoHide, send away what stands in this list.
     Global_PendingUnloads.emplace_back(rootMenu);
     rootMenu->LoadLinksData(Global_LinksRoot);
-    rootMenu->move(
-        Place_RootMenu(strip, rootMenu->Level_Size(), platform::Desktop::Get().Screen_Size()));
+    rootMenu->move(Place_RootMenu(strip, rootMenu->Level_Size(), Screen_At(strip.center())));
     rootMenu->ShowForm();
 }
 
@@ -85,6 +93,7 @@ void Hide_LinksMenu() {
 void Unload_LinksMenu() {
     On_LinksTree_Changed({});
     menuGone = {};
+    focusReturned = {};
     if (Global_Timers != nullptr)
         Global_Timers->On_Tick(TimerName::Win98HideForms, {});
     delete rootMenu.data();

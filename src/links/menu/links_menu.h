@@ -9,7 +9,8 @@
 
 // At the start, once the timers stand. gone: the menu has left the view (the toolbar's button
 // comes up again).
-void Init_LinksMenu(std::function<void()> gone = {});
+// focusReturned: a menu that held the keyboard focus hands it back.
+void Init_LinksMenu(std::function<void()> gone = {}, std::function<void()> focusReturned = {});
 // Shows the menu at the toolbar (strip: its bounds, screen pixels); nothing when there is neither a
 // link nor a category. Opened by keyboard it takes the focus.
 void Open_LinksMenu(MenuOpenedBy how, const QRect& strip);

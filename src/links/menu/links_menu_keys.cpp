@@ -57,6 +57,8 @@ bool LinksMenuV2::Key_Pressed(const QKeyEvent& event) {
         return true;
     case Qt::Key_Escape:
         Leave_Form();
+        if (Holds_Focus())
+            Q_EMIT Focus_Returned();
         return true;
     default:
         return Take_Letter(event.text());

@@ -5,6 +5,7 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/program_end.h"
+#include "controls/the_screen.h"
 #include "controls/timers.h"
 #include "controls/unload_queue.h"
 #include "links/menu/link_target.h"
@@ -72,14 +73,18 @@ void LinksMenuV2::LoadLinksData(const std::shared_ptr<LinksData>& links) {
 }
 
 QSize LinksMenuV2::Level_Size() const {
-    const int widest = platform::Desktop::Get().Screen_Size().width;
+    const int widest = Own_Screen().width();
     return {std::min(level->Layout.Width, widest), level->Layout.Height};
 }
 
 void LinksMenuV2::Take_Size() {
-    const int lowest = platform::Desktop::Get().Screen_Size().height;
     const QSize whole = Level_Size();
-    resize(whole.width(), std::min(whole.height(), lowest));
+    resize(whole.width(), std::min(whole.height(), Own_Screen().height()));
+}
+
+// That of the toolbar, whose menu it is.
+QRect LinksMenuV2::Own_Screen() const {
+    return Screen_At({(strip.Left + strip.Right) / 2, (strip.Top + strip.Bottom) / 2});
 }
 
 bool LinksMenuV2::Fades_Here() const {
@@ -203,10 +208,9 @@ void LinksMenuV2::Open_Child(int row) {
     ChidForm_HideAllChilds();
     ChildForm = child;
     hoveredCategory = row;
-    const platform::Size screen = platform::Desktop::Get().Screen_Size();
     child->Take_Size();
     child->move(
-        Place_ChildMenu(geometry(), y() + Row_Rect(row).top(), child->Level_Size(), screen));
+        Place_ChildMenu(geometry(), y() + Row_Rect(row).top(), child->Level_Size(), Own_Screen()));
     child->ShowForm();
 }
 
@@ -223,7 +227,10 @@ void LinksMenuV2::Click_Row(int row) {
     const MenuItem item = Item(row);
     LinksMenuV2& root = Root();
     root.AvoidFadeOut = true;
+    const bool heldFocus = root.Holds_Focus();
     root.HideForm();
+    if (heldFocus)
+        Q_EMIT root.Focus_Returned();
     // The link may build the menu anew, or end the program: nothing of this form is used below.
     Open_Link(item.URL, item.StartSize);
     Unload_PendingForms();

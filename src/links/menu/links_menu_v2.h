@@ -74,6 +74,8 @@ public:
 Q_SIGNALS:
     // The root form is no longer on view.
     void Menu_Gone();
+    // The root form was opened by keyboard, and its user is done with it.
+    void Focus_Returned();
 
 protected:
     bool event(QEvent* event) override;
@@ -92,6 +94,7 @@ private:
 
     void Build_Window();
     void Take_Size();
+    QRect Own_Screen() const;
     bool Fades_Here() const;
     bool Holds_Focus() const;
     LinksMenuV2& Root();

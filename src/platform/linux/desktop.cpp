@@ -7,10 +7,9 @@
 #include <QApplication>
 #include <QCursor>
 #include <QScreen>
-#include <QWindow>
 
 #include <algorithm>
-#include <unistd.h>
+#include <utility>
 
 namespace platform {
 
@@ -28,22 +27,45 @@ bool Is_Furniture(xcb_window_t window) {
     return isOne("_NET_WM_WINDOW_TYPE_DOCK") || isOne("_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 
-bool Is_Ours(xcb_window_t window) {
-    const auto process = x11::Items(window, "_NET_WM_PID");
-    const QWindowList ours = QGuiApplication::allWindows();
-    return (!process.empty() && process.front() == static_cast<std::uint32_t>(getpid())) ||
-           std::any_of(ours.begin(), ours.end(), [&](const QWindow* one) {
-               return one->handle() != nullptr && one->winId() == window;
-           });
-}
-
 class LinuxDesktop : public Desktop {
 public:
-    Size Screen_Size() override {
-        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-            last = {screen->geometry().width(), screen->geometry().height()};
+    std::vector<QRect> Screens() override {
+        const QList<QScreen*> found = QGuiApplication::screens(); // the primary one first
+        if (!found.isEmpty()) {
+            last.clear();
+            for (const QScreen* screen : found) {
+                last.push_back(screen->geometry());
+            }
         }
         return last;
+    }
+
+    void On_ScreensChange(std::function<void()> changed) override {
+        handler = std::move(changed);
+        if (watch != nullptr || qGuiApp == nullptr) {
+            return;
+        }
+        watch = std::make_unique<QObject>();
+        const auto tell = [this] {
+            if (handler) {
+                handler();
+            }
+        };
+        const auto follow = [this, tell](QScreen* screen) {
+            QObject::connect(screen, &QScreen::geometryChanged, watch.get(), tell);
+        };
+        for (QScreen* screen : QGuiApplication::screens()) {
+            follow(screen);
+        }
+        QObject::connect(qGuiApp, &QGuiApplication::screenAdded, watch.get(),
+                         [tell, follow](QScreen* screen) {
+                             follow(screen);
+                             tell();
+                         });
+        // While it is told, the screen that goes is still among the others.
+        QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, watch.get(), tell,
+                         Qt::QueuedConnection);
+        QObject::connect(qGuiApp, &QGuiApplication::primaryScreenChanged, watch.get(), tell);
     }
 
     int TwipsPerPixelX() override { return TwipsPerPixel; }
@@ -75,14 +97,16 @@ public:
 
     void Minimize_All() override {
         for (const xcb_window_t window : x11::Items(x11::Root(), "_NET_CLIENT_LIST")) {
-            if (!Is_Ours(window) && !Is_Furniture(window)) {
+            if (!x11::Is_Ours(window) && !Is_Furniture(window)) {
                 x11::Tell_Manager(window, "WM_CHANGE_STATE", {IconicState, 0, 0, 0, 0});
             }
         }
     }
 
 private:
-    Size last{1024, 768}; // while no screen is connected
+    std::vector<QRect> last{QRect(0, 0, 1024, 768)}; // while no screen is connected
+    std::unique_ptr<QObject> watch;
+    std::function<void()> handler;
 };
 
 } // namespace

@@ -1,9 +1,10 @@
+#include "platform/linux/stacking.h"
 #include "platform/linux/x11.h"
 #include "platform/providers.h"
 #include "platform/window.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <utility>
 
 namespace platform {
 
@@ -17,16 +18,6 @@ xcb_window_t Native(WindowId window) {
     return static_cast<xcb_window_t>(window);
 }
 
-bool Is_Mapped(xcb_connection_t* server, xcb_window_t window) {
-    const auto asked = xcb_get_window_attributes(server, window);
-    xcb_generic_error_t* fault = nullptr;
-    auto* reply = xcb_get_window_attributes_reply(server, asked, &fault);
-    const bool isMapped = reply != nullptr && reply->map_state != XCB_MAP_STATE_UNMAPPED;
-    std::free(reply);
-    std::free(fault);
-    return isMapped;
-}
-
 // The window manager reads the property when it maps the window and listens to the message from
 // then on. Between the two nobody knows which: the message goes out in any case.
 void Set_State(WindowId window, const char* name, StateAction action) {
@@ -35,7 +26,7 @@ void Set_State(WindowId window, const char* name, StateAction action) {
         return;
     }
     const xcb_atom_t state = x11::Atom(name);
-    if (!Is_Mapped(server, Native(window))) {
+    if (!x11::Is_Mapped(Native(window))) {
         std::vector<std::uint32_t> states = x11::Items(Native(window), "_NET_WM_STATE");
         states.erase(std::remove(states.begin(), states.end(), state), states.end());
         if (action == AddState) {
@@ -50,6 +41,32 @@ class LinuxWindows : public Windows {
 public:
     void Set_Topmost(WindowId window, bool topmost) override {
         Set_State(window, "_NET_WM_STATE_ABOVE", topmost ? AddState : RemoveState);
+    }
+
+    void Raise(WindowId window, RaiseOver over) override {
+        if (over == RaiseOver::All) {
+            stacking.Raise_OverAll(Native(window));
+        } else {
+            stacking.Raise_OverOthers(Native(window));
+        }
+    }
+
+    void On_Restack(std::function<void()> handler) override {
+        stacking.On_Restack(std::move(handler));
+    }
+
+    void Show_Everywhere(WindowId window) override {
+        constexpr std::uint32_t all = 0xFFFFFFFF;
+        Set_State(window, "_NET_WM_STATE_STICKY", AddState);
+        if (x11::Is_Mapped(Native(window))) {
+            x11::Tell_Manager(Native(window), "_NET_WM_DESKTOP", {all, FromUser, 0, 0, 0});
+        } else {
+            x11::Set_Items(Native(window), "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {all});
+        }
+    }
+
+    void Stay_Quiet(WindowId window) override {
+        Set_State(window, "_NET_WM_STATE_DEMANDS_ATTENTION", RemoveState);
     }
 
     void Leave_TaskBar(WindowId window) override {
@@ -79,10 +96,18 @@ public:
         if (x11::Has_Manager()) {
             // As the user's own wish: from an application it would only flash in a panel.
             x11::Tell_Manager(Native(window), "_NET_ACTIVE_WINDOW", {FromUser, now, 0, 0, 0});
-        } else if (Is_Mapped(server, Native(window))) {
+        } else if (x11::Is_Mapped(Native(window))) {
             xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, Native(window), now);
         }
         xcb_flush(server);
+    }
+
+    void Give_FocusBack(WindowId window) override {
+        const auto active = x11::Items(x11::Root(), "_NET_ACTIVE_WINDOW");
+        const xcb_window_t before = stacking.Focused_Before();
+        if (!active.empty() && active.front() == Native(window) && x11::Is_Mapped(before)) {
+            Activate(before);
+        }
     }
 
     void Set_Alpha(WindowId window, int alpha) override {
@@ -98,6 +123,9 @@ public:
     void Set_Shadow(WindowId window, bool shadow) override {
         x11::Set_Items(Native(window), "_COMPTON_SHADOW", XCB_ATOM_CARDINAL, {shadow ? 1U : 0U});
     }
+
+private:
+    x11::Stacking stacking;
 };
 
 } // namespace

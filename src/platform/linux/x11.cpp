@@ -1,12 +1,14 @@
 #include "platform/linux/x11.h"
 
 #include <QGuiApplication>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <poll.h>
+#include <unistd.h>
 
 namespace platform::x11 {
 
@@ -33,6 +35,19 @@ Owned<xcb_get_property_reply_t> Property(xcb_window_t window, const char* name) 
     Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(server, asked, &fault));
     const Owned<xcb_generic_error_t> dropped(fault);
     return reply;
+}
+
+std::uint8_t Map_State(xcb_window_t window) {
+    xcb_connection_t* server = Connection();
+    if (server == nullptr || window == XCB_NONE) {
+        return XCB_MAP_STATE_UNMAPPED;
+    }
+    const auto asked = xcb_get_window_attributes(server, window);
+    xcb_generic_error_t* fault = nullptr;
+    const Owned<xcb_get_window_attributes_reply_t> reply(
+        xcb_get_window_attributes_reply(server, asked, &fault));
+    const Owned<xcb_generic_error_t> dropped(fault);
+    return reply == nullptr ? std::uint8_t{XCB_MAP_STATE_UNMAPPED} : reply->map_state;
 }
 
 // Requests on windows that others own can fail at any time: the error is ours, not the toolkit's.
@@ -139,6 +154,28 @@ void Tell_Manager(xcb_window_t window, const char* message,
                                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY |
                                       XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                                   reinterpret_cast<const char*>(&event)));
+}
+
+bool Is_Mapped(xcb_window_t window) {
+    return Map_State(window) != XCB_MAP_STATE_UNMAPPED;
+}
+
+bool Is_OnView(xcb_window_t window) {
+    return Map_State(window) == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool Is_Ours(xcb_window_t window) {
+    const auto process = Items(window, "_NET_WM_PID");
+    const QWindowList ours = QGuiApplication::allWindows();
+    return (!process.empty() && process.front() == static_cast<std::uint32_t>(getpid())) ||
+           std::any_of(ours.begin(), ours.end(), [&](const QWindow* one) {
+               return one->handle() != nullptr && one->winId() == window;
+           });
+}
+
+bool Manager_Knows(const char* name) {
+    const auto known = Items(Root(), "_NET_SUPPORTED");
+    return std::find(known.begin(), known.end(), Atom(name)) != known.end();
 }
 
 bool Has_Manager() {

@@ -27,8 +27,15 @@ void Remove_Property(xcb_window_t window, const char* property);
 // A message about a window to the window manager.
 void Tell_Manager(xcb_window_t window, const char* message,
                   const std::array<std::uint32_t, 5>& data);
+// Mapped at all, and on view: the workspace that it is on is the present one.
+bool Is_Mapped(xcb_window_t window);
+bool Is_OnView(xcb_window_t window);
+// A window of this program.
+bool Is_Ours(xcb_window_t window);
 // A window manager of the usual kind runs.
 bool Has_Manager();
+// The window manager knows what the name stands for.
+bool Manager_Knows(const char* name);
 // The server's clock, ms; 0 (the current time) when it does not answer.
 std::uint32_t Server_Time();
 

@@ -56,7 +56,7 @@ TEST(HelpRules, TheViewerStandsBelowTheToolbarAndOnTheScreen) {
     const struct {
         const char* name;
         ToolbarRect toolbar;
-        platform::Point place;
+        QPoint place;
     } rows[] = {
         {"below", {400, 0, 733, 20}, {400, 30}},
         {"moved in at the right edge", {1200, 0, 1280, 20}, {980, 30}},
@@ -65,7 +65,9 @@ TEST(HelpRules, TheViewerStandsBelowTheToolbarAndOnTheScreen) {
         {"a toolbar that is off the screen", {-50, -30, 283, -10}, {0, 0}},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(Help_Place(row.toolbar, {300, 460}, {1280, 1024}), row.place) << row.name;
+        EXPECT_EQ(Help_Place(row.toolbar, {300, 460}, {0, 0, 1280, 1024}), row.place) << row.name;
+    EXPECT_EQ(Help_Place({-400, -20, -67, 0}, {300, 460}, {-800, -600, 800, 600}),
+              QPoint(-400, -490));
 }
 
 } // namespace

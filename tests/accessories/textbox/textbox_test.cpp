@@ -100,17 +100,22 @@ TEST_F(Textbox, Its_place_is_kept_and_one_off_the_screen_comes_back) {
     EXPECT_TRUE(Textbox_Place());
     struct Case {
         const char* name;
-        platform::Point place, back;
+        QPoint place, back;
     };
     const Case cases[] = {{"on the screen", {1030, 30}, {1030, 30}},
                           {"past the right edge", {1270, 30}, {1030, 30}},
                           {"past the left edge", {-240, 30}, {0, 30}},
                           {"below it", {100, 2000}, {100, 927}},
                           {"nowhere", {-143165576, 143165576}, {0, 927}}};
+    const QRect screen(0, 0, 1280, 1024);
     for (const Case& row : cases)
-        EXPECT_EQ(Reachable_Place(row.place, TextboxClientSize, {1280, 1024}), row.back)
+        EXPECT_EQ(Reachable_Place(row.place, TextboxClientSize, {screen}, screen), row.back)
             << row.name;
-    EXPECT_EQ(Reachable_Place({900, 30}, {2000, 97}, {800, 600}), (platform::Point{0, 30}));
+    const QRect small(0, 0, 800, 600);
+    EXPECT_EQ(Reachable_Place({900, 30}, {2000, 97}, {small}, small), QPoint(0, 30));
+    const QRect right(1280, 0, 800, 600);
+    EXPECT_EQ(Reachable_Place({1500, 30}, {250, 97}, {screen, right}, screen), QPoint(1500, 30));
+    EXPECT_EQ(Reachable_Place({1500, 700}, {250, 97}, {screen, right}, right), QPoint(1500, 503));
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "editors/pages/hour_rules.h"
-#include "editors/pages/popup_place.h"
 
 #include <gtest/gtest.h>
 
@@ -126,14 +125,6 @@ TEST(HourRules, Conditions_join_the_record_and_keep_what_is_typed_in_other_rows)
         }
     }
     EXPECT_EQ(rows[0].Start, u"typed"_s);
-}
-
-TEST(HourRules, Popups_stay_on_the_screen) {
-    using platform::Point;
-    const platform::Size screen{800, 600};
-    EXPECT_EQ(Calendar_Place({10, 20}, 130, {270, 260}, screen), (Point{490, 50}));
-    EXPECT_EQ(Clock_Place(600, 590, {118, 161}, screen), (Point{604, 439}));
-    EXPECT_EQ(Clock_Place(10, 10, {900, 700}, screen), (Point{0, 0}));
 }
 
 } // namespace

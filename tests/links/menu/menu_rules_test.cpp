@@ -77,7 +77,8 @@ TEST(MenuLayout, The_widest_caption_is_found_without_measuring_all) {
 }
 
 TEST(MenuPlacement, A_form_turns_round_at_an_edge_and_never_leaves_the_screen) {
-    constexpr platform::Size screen{800, 600};
+    // The second one stands beside and below the first.
+    const QRect screens[] = {{0, 0, 800, 600}, {1024, 768, 800, 600}};
     const std::tuple<const char*, QRect, int, QSize, QPoint> children[] = {
         {"there is room", {10, 20, 100, 200}, 46, {200, 300}, {110, 46}},
         {"one pixel is left at the right", {499, 0, 100, 200}, 26, {200, 300}, {599, 26}},
@@ -89,7 +90,11 @@ TEST(MenuPlacement, A_form_turns_round_at_an_edge_and_never_leaves_the_screen) {
         {"neither right nor left", {150, 0, 444, 500}, 26, {444, 100}, {0, 26}},
     };
     for (const auto& [name, parent, rowTop, size, place] : children)
-        EXPECT_EQ(Place_ChildMenu(parent, rowTop, size, screen), place) << name;
+        for (const QRect& screen : screens)
+            EXPECT_EQ(Place_ChildMenu(parent.translated(screen.topLeft()), rowTop + screen.top(),
+                                      size, screen),
+                      place + screen.topLeft())
+                << name;
     const std::tuple<const char*, QRect, QSize, QPoint> roots[] = {
         {"under the toolbar", {30, 0, 333, 20}, {150, 580}, {30, 20}},
         {"over it", {30, 580, 333, 20}, {150, 580}, {30, 0}},
@@ -97,7 +102,10 @@ TEST(MenuPlacement, A_form_turns_round_at_an_edge_and_never_leaves_the_screen) {
         {"wider than what is left", {520, 0, 280, 20}, {444, 100}, {356, 20}},
     };
     for (const auto& [name, strip, size, place] : roots)
-        EXPECT_EQ(Place_RootMenu(strip, size, screen), place) << name;
+        for (const QRect& screen : screens)
+            EXPECT_EQ(Place_RootMenu(strip.translated(screen.topLeft()), size, screen),
+                      place + screen.topLeft())
+                << name;
 }
 
 TEST(MenuTracking, Who_went_on_into_a_child_has_not_left_its_parents) {
