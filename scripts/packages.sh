@@ -4,7 +4,7 @@ packages_build="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libsdl
   libxcb1-dev libgl-dev libegl-dev"
 packages_runtime="libqt6svg6 libsdl2-mixer-2.0-0 fonts-liberation xdg-utils"
 packages_desktop="xvfb openbox picom tint2 xdotool x11-utils imagemagick"
-packages_test="fonts-dejavu-core libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon
+packages_test="x11-xserver-utils fonts-dejavu-core libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon
   wmctrl xclip faketime"
 packages_bench="libbenchmark-dev dbus-daemon"
 packages_check="clang-format-14 clang-tidy-14"
