@@ -36,6 +36,8 @@ public:
         return true;
     }
     bool Copy(const QString&, const QString&, bool) override { return true; }
+    platform::FileStamp Stamp(const QString&) override { return {}; }
+    void Sweep(const QString&) override {}
     bool Make_Folder(const QString&) override { return true; }
     std::optional<QStringList> Empty_Files(const QString&) override { return {}; }
 

@@ -2,6 +2,7 @@
 
 #include "accessories/setup/setup.h"
 #include "app/app_message.h"
+#include "app/background_save.h"
 #include "app/windows.h"
 #include "controls/program_end.h"
 #include "controls/transparency.h"
@@ -55,9 +56,14 @@ bool Application::Load() {
 }
 
 void Application::Connect_Timers() {
-    timers.On_Tick(TimerName::R_CheckDate_Timer, [] { Check_AllReminders(Deliver_Reminder); });
-    timers.On_Tick(TimerName::Check_Ra_Reminders_Timer,
-                   [] { Check_RA_Reminders(Deliver_Reminder); });
+    timers.On_Tick(TimerName::R_CheckDate_Timer, [this] { Check_Reminders(); });
+    timers.On_Tick(TimerName::Check_Ra_Reminders_Timer, [this] {
+        const std::int32_t before = Global_RA_Last;
+        Check_RA_Reminders(Deliver_Reminder);
+        if (background != nullptr && Global_RA_Last != before) {
+            background->Note_Change();
+        }
+    });
     timers.On_Tick(TimerName::S_Reminder_Timer, Message_Tick);
     timers.On_Tick(TimerName::UnloadFormsTimer, UnloadFormsTimer_Tick);
     timers.On_Tick(TimerName::TK_AppMessage_Timer, [this] {
@@ -72,6 +78,22 @@ void Application::Connect_Timers() {
             }
         }
     });
+}
+
+void Application::Check_Reminders() {
+    const Moment now = Read_Moment();
+    bool changes = !lastCheck || lastCheck->Today != now.Today; // the day moves marks of schedules
+    if (lastCheck) {
+        Show_SwallowedReminders(*lastCheck, now);
+    }
+    lastCheck = now;
+    Check_AllReminders([&changes](std::int32_t index) {
+        changes = true;
+        Deliver_Reminder(index);
+    });
+    if (background != nullptr && changes) {
+        background->Note_Change();
+    }
 }
 
 void Application::Show_Again() {
@@ -140,6 +162,10 @@ void Application::CloseProgram() {
         return;
     }
     saved = true;
+    if (background != nullptr) {
+        background->Finish();
+        saveFailures += background->Take_OtherCopies();
+    }
     for (const Step& step : SaveOrder) {
         (this->*step.Run)();
     }

@@ -5,14 +5,18 @@
 #include "accessories/help/help_keys.h"
 #include "controls/file_drops.h"
 #include "controls/timers.h"
+#include "core/time_routines.h"
 #include "platform/session.h"
+#include "settings/global_settings.h"
 #include "toolbar/toolbar_commands.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
+class BackgroundSave;
 class MainForm;
 
 class Application {
@@ -67,9 +71,12 @@ private:
     void Save_NoteTable();
     void Save_CategoryTable();
     void Save_RegistryValues();
+    void Start_BackgroundSave();
+    LiveGeometry Live_Geometry() const;
     // Saves everything once, in order; shows nothing.
     void CloseProgram();
     void Connect_Timers();
+    void Check_Reminders();
     // True for the first call: the program ends now.
     bool Begin_Ending();
 
@@ -79,7 +86,9 @@ private:
     Timers timers;
     ToolbarCommands commands;
     std::unique_ptr<MainForm> mainForm;
+    std::unique_ptr<BackgroundSave> background; // from the end of the load to the end
     bool loaded = false;
+    std::optional<Moment> lastCheck;
     bool saved = false;
     bool windowsGone = false;
     QStringList saveFailures; // one line for each table that could not be saved

@@ -3,6 +3,7 @@
 #include "accessories/textbox/frm_textbox.h"
 #include "app/app_message.h"
 #include "app/application.h"
+#include "app/background_save.h"
 #include "app/windows.h"
 #include "controls/program_end.h"
 #include "controls/tooltip_picture.h"
@@ -20,6 +21,7 @@
 #include "links/store/link_rec.h"
 #include "links/store/links_data.h"
 #include "notes/notes_store.h"
+#include "notes/open_note.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -124,10 +126,12 @@ void Application::Load_Settings() {
 }
 
 void Application::Open_UserFolder() {
+    platform::Files::Get().Sweep(programFolder);
     if (!Open_Account(programFolder, Global_CurID)) {
         Show_Error(u"The folder for your data cannot be made:\r\n"_s + Global_UserPath +
                    u"\r\nNothing that you enter will be saved."_s);
     }
+    platform::Files::Get().Sweep(Global_UserPath);
 }
 
 void Application::Load_CategoryTable() {
@@ -209,7 +213,32 @@ void Application::Start_Toolbar() {
 }
 
 void Application::Start_Timers() {
+    lastCheck = Read_Moment();
     timers.Start_FirstTimers();
+    Start_BackgroundSave();
+}
+
+void Application::Start_BackgroundSave() {
+    const QString queue = Account_File(u"rareminders.dat"_s);
+    BackgroundSave::Ports ports{
+        {Account_File(u"reminders.dat"_s), Reminders_File(), {}, u"Error saving reminders"_s},
+        {{queue, RA_File(), [queue] { return Encode_RA_Reminders(queue); },
+          u"Error saving the reminders to come again"_s},
+         {Account_File(u"links.dat"_s), Links_File(), Encode_Links, u"Error saving links"_s},
+         {Account_File(u"notes.dat"_s), Notes_File(), Encode_Notes, u"Error saving notes"_s},
+         {Account_File(u"rcategories.txt"_s), Categories_File(), Encode_Categories,
+          u"Error saving categories"_s}},
+        [] { Store_OpenNote(); },
+        [this] { return Take_Global_Settings(Live_Geometry(), programFolder); },
+        [](const QString& text) {
+            platform::Dialogs::Get().Notice(text, platform::BoxStyle::Exclamation);
+        }};
+    background = std::make_unique<BackgroundSave>(std::move(ports));
+}
+
+LiveGeometry Application::Live_Geometry() const {
+    const TwipsRect bounds = mainForm->Live_Bounds();
+    return {bounds.Width, {bounds.Top, bounds.Left}, Textbox_Place()};
 }
 
 void Application::Take_OpenEdits() {
@@ -243,6 +272,5 @@ void Application::Save_CategoryTable() {
 }
 
 void Application::Save_RegistryValues() {
-    const TwipsRect bounds = mainForm->Live_Bounds();
-    Save_Global_Settings({bounds.Width, {bounds.Top, bounds.Left}, Textbox_Place()}, programFolder);
+    Save_Global_Settings(Live_Geometry(), programFolder);
 }

@@ -1,6 +1,5 @@
 #include "core/categories.h"
 
-#include "core/damaged_file.h"
 #include "core/reminder_store.h"
 #include "platform/files.h"
 #include "platform/record_text.h"
@@ -17,7 +16,7 @@ namespace {
 constexpr std::size_t FirstEntries = 11;
 constexpr std::size_t EntryStep = 10;
 
-DamagedFile File_OfCategories;
+TableFile File_OfCategories;
 
 const CategoryEntry defaultCategories[] = {
     {u"Work"_s, u"Write"_s},
@@ -72,7 +71,7 @@ void Init_Categories() {
 void Load_Categories(const QString& fileName) {
     platform::Files& files = platform::Files::Get();
     Global_Categories.assign(FirstEntries, {});
-    const std::optional<std::string> bytes = files.Read(fileName);
+    const std::optional<std::string> bytes = File_OfCategories.Read(fileName);
     File_OfCategories.Note_Load(fileName, bytes || !files.Exists(fileName));
     if (bytes)
         Read_Lines(*bytes);
@@ -81,7 +80,7 @@ void Load_Categories(const QString& fileName) {
                   Global_Categories.begin());
 }
 
-void Save_Categories(const QString& fileName) {
+std::string Encode_Categories() {
     std::string bytes;
     for (std::size_t index = 0; index < Count_Categories(); ++index) {
         const CategoryEntry& entry = Global_Categories[index];
@@ -97,7 +96,15 @@ void Save_Categories(const QString& fileName) {
         bytes += line;
         bytes += "\r\n";
     }
-    File_OfCategories.Save(fileName, bytes);
+    return bytes;
+}
+
+TableFile& Categories_File() {
+    return File_OfCategories;
+}
+
+void Save_Categories(const QString& fileName) {
+    File_OfCategories.Save(fileName, Encode_Categories());
 }
 
 int Find_Category(const QString& name) {

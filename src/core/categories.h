@@ -1,8 +1,11 @@
 // The names and icons that reminders are grouped by.
 #pragma once
 
+#include "core/table_file.h"
+
 #include <QString>
 
+#include <string>
 #include <vector>
 
 struct CategoryEntry {
@@ -17,6 +20,10 @@ void Init_Categories();
 // "rcategories.txt"; a missing or empty file gives the default table. Failures are swallowed.
 void Load_Categories(const QString& fileName);
 void Save_Categories(const QString& fileName);
+// The bytes of that file.
+std::string Encode_Categories();
+// The table's file, for who writes it beside the interface.
+TableFile& Categories_File();
 // Index of the name without regard to case, or -1. The empty name finds the first free entry.
 int Find_Category(const QString& name);
 // Adds what reminders use and the table lacks.

@@ -1,6 +1,5 @@
 #include "core/remind_again.h"
 
-#include "core/damaged_file.h"
 #include "core/date_text.h"
 #include "core/record_stream.h"
 #include "core/reminder_store.h"
@@ -32,7 +31,7 @@ constexpr std::int64_t LastMinute = 1439;
 
 constexpr std::int32_t defaultOptions[] = {5, 10, 15, 30, 45, 60, 90, 120};
 
-DamagedFile File_OfQueue;
+TableFile File_OfQueue;
 
 std::string Default_OptionsText() {
     std::string text = "// List of options in the \"Remind me again\" menu\r\n"
@@ -196,7 +195,7 @@ void Check_RA_Reminders(const std::function<void(std::int32_t)>& deliver) {
 }
 
 bool Load_RA_Reminders(const QString& fileName) {
-    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+    const std::optional<std::string> bytes = File_OfQueue.Read(fileName);
     bool loaded = false;
     if (bytes) {
         RecordReader stream(*bytes);
@@ -206,7 +205,7 @@ bool Load_RA_Reminders(const QString& fileName) {
     return loaded;
 }
 
-bool Save_RA_Reminders(const QString& fileName) {
+std::string Encode_RA_Reminders(const QString& fileName) {
     const std::size_t used = Used_Entries();
     RecordWriter stream;
     stream.Put_Header(FileHeader);
@@ -223,5 +222,13 @@ bool Save_RA_Reminders(const QString& fileName) {
     const std::optional<std::string> old = platform::Files::Get().Read(fileName);
     if (old && old->size() > content.size())
         content.append(*old, content.size());
-    return File_OfQueue.Save(fileName, content);
+    return content;
+}
+
+TableFile& RA_File() {
+    return File_OfQueue;
+}
+
+bool Save_RA_Reminders(const QString& fileName) {
+    return File_OfQueue.Save(fileName, Encode_RA_Reminders(fileName));
 }

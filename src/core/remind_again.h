@@ -2,12 +2,14 @@
 // outlives the run, and the choices of minutes from a text file that the user may edit.
 #pragma once
 
+#include "core/table_file.h"
 #include "core/time_routines.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 struct RA_Entry {
@@ -56,3 +58,7 @@ void Check_RA_Reminders(const std::function<void(std::int32_t index)>& deliver);
 bool Load_RA_Reminders(const QString& fileName);
 // What stands behind the entries in the file stays there. False: nothing was replaced.
 bool Save_RA_Reminders(const QString& fileName);
+// The bytes of that file, with the tail of the one that stands there.
+std::string Encode_RA_Reminders(const QString& fileName);
+// The queue's file, for who writes it beside the interface.
+TableFile& RA_File();

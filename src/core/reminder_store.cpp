@@ -1,7 +1,5 @@
 #include "core/reminder_store.h"
 
-#include "core/damaged_file.h"
-#include "core/record_stream.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 
@@ -21,8 +19,13 @@ constexpr std::size_t FreeSlotsAfterLoad = 21;
 constexpr std::size_t SlotStep = 20;
 constexpr std::size_t LeastRecordBytes = 115; // of the oldest version, without texts and hours
 constexpr std::size_t UsualRecordBytes = 256;
+constexpr std::int64_t CountPosition = 13; // behind header and version, counted from 1
 
-DamagedFile File_OfReminders;
+TableFile File_OfReminders;
+
+bool Is_Saved(const ReminderSlot& slot) {
+    return slot.Used && !slot.Pending;
+}
 
 std::vector<ReminderSlot> New_Table(std::size_t slots) {
     return std::vector<ReminderSlot>(slots);
@@ -82,7 +85,7 @@ void Init_Reminders() {
 }
 
 int Load_Reminders(const QString& fileName) {
-    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+    const std::optional<std::string> bytes = File_OfReminders.Read(fileName);
     std::vector<ReminderSlot> table;
     int result = -1;
     if (bytes) {
@@ -94,22 +97,68 @@ int Load_Reminders(const QString& fileName) {
     return result;
 }
 
-bool Save_Reminders(const QString& fileName) {
-    RecordWriter stream;
+void RemindersEncoding::Begin() {
+    stream = {};
     stream.Reserve(Global_Reminders.size() * UsualRecordBytes);
     stream.Put_Header(FileHeader);
     stream.Put_Header(FileVersion);
-    const std::int64_t countPosition = stream.Position();
     stream.Put_Long(0);
-    std::int32_t count = 0;
+    next = 0;
+    encoded.clear();
+    begun = true;
+}
+
+bool RemindersEncoding::Is_StillTheTable() const {
+    auto known = encoded.begin();
     for (const ReminderSlot& slot : Global_Reminders) {
-        if (!slot.Used || slot.Pending)
-            continue;
-        slot.Reminder.Peek().SaveData_To_File(stream);
-        ++count;
+        if (Is_Saved(slot) && (known == encoded.end() || *known++ != &slot.Reminder.Peek())) {
+            return false;
+        }
     }
-    stream.Put_LongAt(countPosition, count);
-    return !stream.Failed() && File_OfReminders.Save(fileName, stream.Bytes());
+    return known == encoded.end();
+}
+
+bool RemindersEncoding::Step(std::size_t slots) {
+    if (!begun) {
+        Begin();
+    }
+    // A table that changes all the time is taken in one piece in the end.
+    constexpr int mostRestarts = 5;
+    if (restarts >= mostRestarts) {
+        slots = Global_Reminders.size();
+    }
+    for (; slots > 0 && next < Global_Reminders.size(); --slots, ++next) {
+        const ReminderSlot& slot = Global_Reminders[next];
+        if (Is_Saved(slot)) {
+            slot.Reminder.Peek().SaveData_To_File(stream);
+            encoded.push_back(&slot.Reminder.Peek());
+        }
+    }
+    if (next < Global_Reminders.size()) {
+        return false;
+    }
+    if (!Is_StillTheTable()) {
+        ++restarts;
+        begun = false;
+        return false;
+    }
+    stream.Put_LongAt(CountPosition, static_cast<std::int32_t>(encoded.size()));
+    return true;
+}
+
+std::optional<std::string> RemindersEncoding::Bytes() const {
+    return stream.Failed() ? std::nullopt : std::optional(stream.Bytes());
+}
+
+TableFile& Reminders_File() {
+    return File_OfReminders;
+}
+
+bool Save_Reminders(const QString& fileName) {
+    RemindersEncoding encoding;
+    encoding.Step(Global_Reminders.size());
+    const std::optional<std::string> bytes = encoding.Bytes();
+    return bytes && File_OfReminders.Save(fileName, *bytes);
 }
 
 AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile) {

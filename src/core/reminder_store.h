@@ -1,13 +1,17 @@
 // The table of all reminders of the account, and its file.
 #pragma once
 
+#include "core/record_stream.h"
 #include "core/reminder.h"
+#include "core/table_file.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 // A slot's own reminder, used like a unique_ptr. It remembers until when the check of every second
@@ -64,6 +68,28 @@ void Check_AllReminders(const std::function<void(std::int32_t index)>& deliver);
 int Load_Reminders(const QString& fileName);
 // Writes the used slots that are not pending. False: nothing was replaced.
 bool Save_Reminders(const QString& fileName);
+
+// The file's bytes, made a few slots at a time while the program goes on.
+class RemindersEncoding {
+public:
+    // Encodes so many more slots. True: all of them, as the table stands now. Slots that came, went
+    // or moved meanwhile start it anew.
+    bool Step(std::size_t slots);
+    // Nothing when a text is too long for its field.
+    std::optional<std::string> Bytes() const;
+
+private:
+    void Begin();
+    bool Is_StillTheTable() const;
+
+    RecordWriter stream;
+    std::size_t next = 0;
+    std::vector<const ReminderClass*> encoded;
+    bool begun = false;
+    int restarts = 0;
+};
+// The file of the table, for who writes it beside the interface.
+TableFile& Reminders_File();
 
 enum class AccountLoad {
     NoFile,         // a new account, without starter reminders: the table stays as it is

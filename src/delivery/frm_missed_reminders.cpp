@@ -81,6 +81,14 @@ void frmMissedReminders::Fill_List(std::vector<MissedEntry> missed) {
     List1->setCurrentRow(0);
 }
 
+void frmMissedReminders::Add_Rows(std::vector<MissedEntry> missed) {
+    missed.insert(missed.end(), entries.begin(), entries.end());
+    std::stable_sort(
+        missed.begin(), missed.end(),
+        [](const MissedEntry& one, const MissedEntry& other) { return one.Day > other.Day; });
+    Fill_List(std::move(missed));
+}
+
 void frmMissedReminders::Place_Window() {
     int widest = 0;
     for (const MissedEntry& entry : entries)
@@ -135,6 +143,23 @@ void LoadAndShow_MissedReminders() {
     missedWindow->Place_Window();
     if (hasRows)
         missedWindow->show();
+}
+
+void Show_SwallowedReminders(const Moment& before, const Moment& now) {
+    std::vector<MissedEntry> missed = List_SwallowedReminders(before, now);
+    if (missed.empty()) {
+        return;
+    }
+    if (missedWindow.isNull()) {
+        missedWindow = new frmMissedReminders;
+    }
+    if (missedWindow->isVisible()) {
+        missedWindow->Add_Rows(std::move(missed));
+        return;
+    }
+    missedWindow->Fill_List(std::move(missed));
+    missedWindow->Place_Window();
+    missedWindow->show();
 }
 
 void Unload_MissedReminders() {

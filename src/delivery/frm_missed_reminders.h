@@ -17,6 +17,8 @@ public:
     frmMissedReminders();
 
     void Fill_List(std::vector<MissedEntry> missed);
+    // In front of those of the same day.
+    void Add_Rows(std::vector<MissedEntry> missed);
     // By the list, beside the toolbar.
     void Place_Window();
 

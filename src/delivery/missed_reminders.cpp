@@ -3,6 +3,7 @@
 #include "controls/the_screen.h"
 #include "core/date_text.h"
 #include "core/reminder_store.h"
+#include "core/swallowed_runs.h"
 
 #include <algorithm>
 #include <optional>
@@ -41,7 +42,33 @@ QString Day_Prefix(Day missed, Day today) {
     return missed == today - 1 ? u"Yesterday: "_s : DayToDateString(missed) + ": "_L1;
 }
 
+MissedEntry Make_Row(std::int32_t index, Day missed, Day today) {
+    // A row is found again by its pair.
+    Settle_IdPair(index);
+    const ReminderClass& reminder =
+        Global_Reminders[static_cast<std::size_t>(index)].Reminder.Peek();
+    QString text = reminder.rs_Text;
+    text.replace("\r\n"_L1, " - "_L1);
+    return {Day_Prefix(missed, today) + text, reminder.rs_ID, reminder.rs_ID2, missed};
+}
+
 } // namespace
+
+std::vector<MissedEntry> List_SwallowedReminders(const Moment& before, const Moment& now) {
+    std::vector<MissedEntry> rows;
+    for (const SwallowedRun& run : Take_SwallowedRuns(before, now)) {
+        ReminderClass& reminder = *Global_Reminders[static_cast<std::size_t>(run.Slot)].Reminder;
+        // The list of the next start does not offer it again: of today it looks for a Serial, of
+        // the days before for a Day. What has fired today keeps its Serial.
+        if (run.Day == now.Today) {
+            reminder.rs_LastExecutedDate = now.TodaySerial;
+        } else if (reminder.rs_LastExecutedDate != now.TodaySerial) {
+            reminder.rs_LastExecutedDate = now.Today;
+        }
+        rows.push_back(Make_Row(run.Slot, run.Day, now.Today));
+    }
+    return rows;
+}
 
 std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
     std::vector<MissedEntry> rows;
@@ -54,12 +81,7 @@ std::vector<MissedEntry> List_MissedReminders(const Moment& now) {
         const std::optional<Day> missed = Find_MissedDay(reminder, now);
         if (!missed)
             continue;
-        QString text = reminder.rs_Text;
-        text.replace("\r\n"_L1, " - "_L1);
-        // A row is found again by its pair.
-        Settle_IdPair(index);
-        rows.push_back(
-            {Day_Prefix(*missed, now.Today) + text, reminder.rs_ID, reminder.rs_ID2, *missed});
+        rows.push_back(Make_Row(index, *missed, now.Today));
     }
     std::stable_sort(
         rows.begin(), rows.end(),

@@ -21,6 +21,10 @@ struct MissedEntry {
 // The rows, newest day first. Notes in each reminder that its run has been offered.
 std::vector<MissedEntry> List_MissedReminders(const Moment& now);
 
+// The rows of what went by between two checks, while the machine slept or the clock was set
+// forward, newest first. Notes in each reminder that its run has been offered.
+std::vector<MissedEntry> List_SwallowedReminders(const Moment& before, const Moment& now);
+
 // Bounds of the window with its frame, screen pixels.
 struct MissedPlace {
     int Left = 0;
@@ -35,5 +39,8 @@ MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
 
 // Builds the list, and shows the window when there is something in it.
 void LoadAndShow_MissedReminders();
+// Adds the rows of what went by between two checks, if there are any: to those of a window that is
+// still on view, else to an empty one.
+void Show_SwallowedReminders(const Moment& before, const Moment& now);
 // Releases the window, at the end of the program.
 void Unload_MissedReminders();

@@ -1,6 +1,5 @@
 #include "notes/notes_store.h"
 
-#include "core/damaged_file.h"
 #include "core/record_stream.h"
 #include "platform/files.h"
 
@@ -20,7 +19,7 @@ constexpr std::size_t FirstSlots = 51;
 constexpr std::size_t LeastNoteBytes = 19; // without title and text
 constexpr std::int32_t NoNotes = -1;
 
-DamagedFile File_OfNotes;
+TableFile File_OfNotes;
 
 NoteRec Get_Note(RecordReader& stream) {
     NoteRec note;
@@ -74,27 +73,36 @@ int Read_Tables(RecordReader& stream) {
     return 0;
 }
 
-int Read_File(const QString& fileName) {
-    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+int Read_Content(const std::optional<std::string>& bytes) {
     if (!bytes)
         return NotesNotReadable;
     RecordReader stream(*bytes);
     return Read_Tables(stream);
 }
 
-// Each gap takes the last note behind it. Returns how many notes there are.
-std::size_t Close_Gaps() {
+// The places of the notes in the order of the file: each gap takes the last note behind it.
+std::vector<std::size_t> Order_InFile() {
+    std::vector<std::size_t> order;
     std::size_t end = Global_Notes.size();
     for (std::size_t index = 0; index < end; ++index) {
-        if (Global_Notes[index].InUse)
-            continue;
-        while (end > index + 1 && !Global_Notes[end - 1].InUse)
+        while (!Global_Notes[index].InUse && end > index && !Global_Notes[end - 1].InUse) {
             --end;
-        if (end == index + 1)
-            return index;
-        Global_Notes[index] = std::exchange(Global_Notes[--end], NoteRec());
+        }
+        if (index < end) {
+            order.push_back(Global_Notes[index].InUse ? index : --end);
+        }
     }
-    return end;
+    return order;
+}
+
+void Close_Gaps() {
+    std::vector<NoteRec> notes;
+    for (const std::size_t index : Order_InFile()) {
+        notes.push_back(std::move(Global_Notes[index]));
+    }
+    // Without a note the table stays as long as it is, all free.
+    notes.resize(notes.empty() ? Global_Notes.size() : notes.size());
+    Global_Notes = std::move(notes);
 }
 
 } // namespace
@@ -106,24 +114,33 @@ void Init_Notes() {
 }
 
 int Load_Notes_File(const QString& fileName) {
-    const int result = Read_File(fileName);
+    const int result = Read_Content(File_OfNotes.Read(fileName));
     File_OfNotes.Note_Load(fileName, result == 0);
     return result;
 }
 
-bool Save_Notes_File(const QString& fileName) {
-    const std::size_t count = Close_Gaps();
+std::optional<std::string> Encode_Notes() {
+    const std::vector<std::size_t> order = Order_InFile();
     RecordWriter stream;
     stream.Put_Header(FileHeader);
     stream.Put_Header(FileVersion);
     for (const QString& name : Global_NoteCategories)
         stream.Put_RecString(name);
-    stream.Put_Long(static_cast<std::int32_t>(count) - 1);
-    if (count > 0)
-        Global_Notes.resize(count);
-    for (std::size_t index = 0; index < count; ++index)
+    stream.Put_Long(static_cast<std::int32_t>(order.size()) - 1);
+    for (const std::size_t index : order) {
         Put_Note(stream, Global_Notes[index]);
-    return !stream.Failed() && File_OfNotes.Save(fileName, stream.Bytes());
+    }
+    return stream.Failed() ? std::nullopt : std::optional(stream.Bytes());
+}
+
+TableFile& Notes_File() {
+    return File_OfNotes;
+}
+
+bool Save_Notes_File(const QString& fileName) {
+    Close_Gaps();
+    const std::optional<std::string> bytes = Encode_Notes();
+    return bytes && File_OfNotes.Save(fileName, *bytes);
 }
 
 void Notes_Build_Example() {
@@ -150,7 +167,7 @@ NotesLoad Load_AccountNotes(const QString& accountFolder, const QString& example
     }
     // The program's own examples follow those that could be read, too; a file of examples that
     // cannot be read leaves the archive empty. Both are meant.
-    if (!files.Exists(exampleFile) || Read_File(exampleFile) == 0)
+    if (!files.Exists(exampleFile) || Read_Content(files.Read(exampleFile)) == 0)
         Notes_Build_Example();
     return result;
 }

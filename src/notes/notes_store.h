@@ -1,12 +1,15 @@
 // The notes archive: short titled texts in at most 18 named categories, and its file.
 #pragma once
 
+#include "core/table_file.h"
 #include "core/time_routines.h"
 
 #include <QString>
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 // A note of a slot that is not in use means nothing.
@@ -41,6 +44,10 @@ int Load_Notes_File(const QString& fileName);
 // order changes and an index is good for nothing afterwards: that is meant. False: the file was not
 // replaced ("Error saving notes").
 bool Save_Notes_File(const QString& fileName);
+// The bytes of that file; the table stays as it is. Nothing when a text is too long for its field.
+std::optional<std::string> Encode_Notes();
+// The tables' file, for who writes it beside the interface.
+TableFile& Notes_File();
 // Puts the example notes over the first places of both tables.
 void Notes_Build_Example();
 

@@ -59,6 +59,21 @@ public:
         }
     }
 
+    void Notice(const QString& text, BoxStyle style) override {
+        if (isDismissed) {
+            return;
+        }
+        auto* box = new QMessageBox(Icon_Of(style), u"Tockly"_s, Shown_Text(text), QMessageBox::Ok);
+        box->setTextFormat(Qt::PlainText);
+        box->setAccessibleDescription(text);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setAttribute(Qt::WA_ShowWithoutActivating);
+        box->setWindowModality(Qt::NonModal);
+        box->setWindowFlag(Qt::WindowStaysOnTopHint);
+        notices.emplace_back(box);
+        box->show();
+    }
+
     Answer Question(const QString& text, bool withCancel, const BoxLook& look) override {
         const auto closing = withCancel ? QMessageBox::Cancel : QMessageBox::No;
         QMessageBox::StandardButton pressed = closing;
@@ -116,6 +131,9 @@ public:
 
     void Dismiss_All() override {
         isDismissed = true;
+        for (const auto& notice : std::exchange(notices, {})) {
+            delete notice.data();
+        }
         // The innermost loop first. A box that goes may take others with it.
         const auto closing = open;
         for (auto box = closing.rbegin(); box != closing.rend(); ++box) {
@@ -173,6 +191,7 @@ private:
     }
 
     std::vector<QPointer<QDialog>> open; // the innermost last
+    std::vector<QPointer<QMessageBox>> notices;
     int holding = 0;
     bool isDismissed = false;
 };

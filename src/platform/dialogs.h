@@ -34,6 +34,8 @@ public:
         Show_Message(text, {QStringLiteral("Tockly"), style});
     }
     virtual void Show_Message(const QString& text, const BoxLook& look) = 0;
+    // A text that waits for nobody: the program goes on, its timers too.
+    virtual void Notice(const QString& text, BoxStyle style) = 0;
     // A question with Yes, No and, if asked for, Cancel. Closing the box is Cancel, or No without.
     virtual Answer Question(const QString& text, bool withCancel, const BoxLook& look = {}) = 0;
     // A line of text. taken: called unless the user cancels or the owner is gone by then.

@@ -7,7 +7,9 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <utility>
 #include <variant>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -112,15 +114,37 @@ void Read_Row(const clsRegistryAccess& registry, const SettingRow& row,
         *std::get<std::int32_t*>(row.Target) = value;
 }
 
-void Write_Row(const clsRegistryAccess& registry, const SettingRow& row) {
+using StoredValue = std::variant<std::int32_t, QString>;
+
+StoredValue Take_Value(const SettingRow& row) {
+    if (auto* const* text = std::get_if<QString*>(&row.Target)) {
+        return **text;
+    }
+    if (auto* const* flag = std::get_if<bool*>(&row.Target)) {
+        return **flag ? -1 : 0;
+    }
+    return *std::get<std::int32_t*>(row.Target);
+}
+
+void Write_Row(const clsRegistryAccess& registry, const SettingRow& row, const StoredValue& value) {
     const QString key = Key_Text(row.Key);
     const QString name = QString::fromLatin1(row.Name);
-    if (auto* const* text = std::get_if<QString*>(&row.Target))
-        registry.WriteBinary(key, name, **text);
-    else if (auto* const* flag = std::get_if<bool*>(&row.Target))
-        registry.WriteDWORD(key, name, **flag ? -1 : 0);
-    else
-        registry.WriteDWORD(key, name, *std::get<std::int32_t*>(row.Target));
+    if (const auto* text = std::get_if<QString>(&value)) {
+        registry.WriteBinary(key, name, *text);
+    } else {
+        registry.WriteDWORD(key, name, std::get<std::int32_t>(value));
+    }
+}
+
+void Take_Geometry(const LiveGeometry& geometry, const QString& programFolder) {
+    Global_Config_MainForm_Width = geometry.ToolbarWidth;
+    Global_Config_MainForm_Top = geometry.Toolbar.Top;
+    Global_Config_MainForm_Left = geometry.Toolbar.Left;
+    if (geometry.Textbox) {
+        Global_Config_Textbox_Top = geometry.Textbox->Top;
+        Global_Config_Textbox_Left = geometry.Textbox->Left;
+    }
+    installPath = programFolder;
 }
 
 void Assign_Account(const SettingsDefaults& defaults) {
@@ -154,18 +178,29 @@ void Load_Global_Settings(const SettingsDefaults& defaults) {
 }
 
 void Save_Global_Settings(const LiveGeometry& geometry, const QString& programFolder) {
-    Global_Config_MainForm_Width = geometry.ToolbarWidth;
-    Global_Config_MainForm_Top = geometry.Toolbar.Top;
-    Global_Config_MainForm_Left = geometry.Toolbar.Left;
-    if (geometry.Textbox) {
-        Global_Config_Textbox_Top = geometry.Textbox->Top;
-        Global_Config_Textbox_Left = geometry.Textbox->Left;
-    }
     FirstTime = 0;
-    installPath = programFolder;
-
+    Take_Geometry(geometry, programFolder);
     const clsRegistryAccess registry;
     registry.CreateKey(Key_Text(SettingKey::User));
-    for (const std::size_t index : SaveOrder)
-        Write_Row(registry, Rows[index]);
+    for (const std::size_t index : SaveOrder) {
+        Write_Row(registry, Rows[index], Take_Value(Rows[index]));
+    }
+}
+
+std::function<void()> Take_Global_Settings(const LiveGeometry& geometry,
+                                           const QString& programFolder) {
+    Take_Geometry(geometry, programFolder);
+    std::vector<std::pair<const SettingRow*, StoredValue>> values;
+    for (const std::size_t index : SaveOrder) {
+        if (Rows[index].Target != Variable(&FirstTime)) {
+            values.emplace_back(&Rows[index], Take_Value(Rows[index]));
+        }
+    }
+    return [values = std::move(values)] {
+        const clsRegistryAccess registry;
+        registry.CreateKey(Key_Text(SettingKey::User));
+        for (const auto& [row, value] : values) {
+            Write_Row(registry, *row, value);
+        }
+    };
 }

@@ -58,3 +58,8 @@ void Compute_IsWinXP();
 void Load_Global_Settings(const SettingsDefaults& defaults);
 // Writes all values; programFolder in the system's own form. Failures are silent.
 void Save_Global_Settings(const LiveGeometry& geometry, const QString& programFolder);
+
+// What of the values is to be written while the program runs: all but "First Time", so that a first
+// run that was cut short begins anew. The result writes them, on any thread.
+std::function<void()> Take_Global_Settings(const LiveGeometry& geometry,
+                                           const QString& programFolder);

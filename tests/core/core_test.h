@@ -40,6 +40,13 @@ public:
         const auto bytes = Read(from);
         return bytes && (overwrite || !Exists(to)) && Replace(to, *bytes);
     }
+    platform::FileStamp Stamp(const QString& path) override {
+        const auto bytes = Read(path);
+        return bytes ? platform::FileStamp{std::hash<std::string>()(*bytes),
+                                           static_cast<std::int64_t>(bytes->size()), 0, 0}
+                     : platform::FileStamp();
+    }
+    void Sweep(const QString&) override {}
     bool Make_Folder(const QString&) override { return true; }
     std::optional<QStringList> Empty_Files(const QString&) override { return {}; }
 };

@@ -92,6 +92,46 @@ TEST_F(ReminderStore, ASaveIsRefusedWhenTheDamagedFileCannotBeKept) {
     EXPECT_EQ(files.content[dataFile + u".damaged-3"_s], "damaged");
 }
 
+TEST_F(ReminderStore, WhatAnotherProgramWroteIsKeptBesideTheSavedFile) {
+    ASSERT_TRUE(Save_Reminders(dataFile));
+    TableFile& file = Reminders_File();
+    EXPECT_EQ(file.Save_Changed(dataFile, emptyFile), SaveResult::Same);
+    EXPECT_EQ(file.Save_Changed(dataFile, "ours"), SaveResult::Written);
+    EXPECT_EQ(file.Take_OtherCopy(), QString());
+    files.content[dataFile] = "theirs";
+    files.refused.insert(dataFile + u".other"_s);
+    EXPECT_EQ(file.Save_Changed(dataFile, "theirs"), SaveResult::Same) << "nothing is lost by it";
+    EXPECT_EQ(file.Save_Changed(dataFile, "ours"), SaveResult::Written);
+    EXPECT_EQ(files.content[dataFile + u".other-2"_s], "theirs");
+    EXPECT_EQ(file.Take_OtherCopy(), dataFile + u".other-2"_s);
+    EXPECT_EQ(file.Save_Changed(dataFile, "ours again"), SaveResult::Written);
+    EXPECT_EQ(file.Take_OtherCopy(), QString());
+    EXPECT_EQ(files.content.size(), 2U);
+
+    files.content[dataFile] = emptyFile;
+    ASSERT_EQ(Load_Reminders(dataFile), 0);
+    files.content[dataFile] = "came after the load";
+    ASSERT_TRUE(Save_Reminders(dataFile));
+    EXPECT_EQ(files.content[file.Take_OtherCopy()], "came after the load");
+}
+
+TEST_F(ReminderStore, ATableThatChangesWhileItIsEncodedComesOutAsItStandsInTheEnd) {
+    for (const bool keepsChanging : {false, true}) {
+        Init_Reminders();
+        for (std::int32_t id = 0; id < 30; ++id)
+            Add_Reminder(id);
+        RemindersEncoding encoding;
+        EXPECT_FALSE(encoding.Step(20));
+        Delete_ReminderSlot(3); // those behind it move under the step that is next
+        Global_Reminders[5].Pending = true;
+        while (!encoding.Step(7))
+            if (keepsChanging)
+                Add_Reminder(100);
+        ASSERT_TRUE(Save_Reminders(dataFile));
+        EXPECT_EQ(encoding.Bytes(), files.content[dataFile]);
+    }
+}
+
 TEST_F(ReminderStore, ASaveThatFailsLeavesTheOldFile) {
     FakeFiles disk;
     const QTemporaryDir folder;

@@ -154,4 +154,29 @@ TEST_F(Missed, A_row_is_delivered_by_a_double_click_and_by_Enter) {
     EXPECT_FALSE(Window()->isVisible());
 }
 
+TEST_F(Missed, What_a_sleep_swallowed_is_listed_once_and_not_again_at_the_next_start) {
+    Add(u"daily"_s, DateType::EveryDay);
+    const auto Shown = [] {
+        QStringList rows;
+        const auto* list = Window()->findChild<QListWidget*>();
+        for (int row = 0; row < list->count(); ++row)
+            rows << list->item(row)->text();
+        return rows.join(u'|');
+    };
+    const auto At = [](int day, int minute) {
+        return Moment_Of({2026, 3, day, minute / 60, minute % 60, 0, 0});
+    };
+    Show_SwallowedReminders(At(1, 601), At(2, 540));
+    EXPECT_EQ(Window(), nullptr) << "nothing was due";
+    Show_SwallowedReminders(At(1, 540), At(2, 540));
+    EXPECT_EQ(Shown(), u"Yesterday: daily"_s);
+    EXPECT_EQ(Rows(9, 0), QString()) << "the next start";
+    Show_SwallowedReminders(At(2, 541), At(2, 700));
+    EXPECT_EQ(Shown(), u"Today: daily|Yesterday: daily"_s) << "the open window gets the row";
+    EXPECT_EQ(Rows(12, 0), QString());
+    Window()->close();
+    Show_SwallowedReminders(At(2, 900), At(3, 700));
+    EXPECT_EQ(Shown(), u"Today: daily"_s) << "the others have been seen";
+}
+
 } // namespace

@@ -253,4 +253,33 @@ TEST_F(Whole, A_Due_Reminder_Sounds_And_Passes_Through_The_Line_Until_It_Is_Dism
     EXPECT_TRUE(tockly.Is_Running());
 }
 
+TEST_F(Whole, What_Changed_Is_On_The_Disk_When_The_Program_Is_Killed) {
+    const QByteArray before = Reminder_File({{.id = 1, .text = "Due now"}});
+    ASSERT_TRUE(Write_File(Reminders(), before));
+    const QString rest = Home() + "/User-1/.tockly-999999999-1.tmp"_L1; // of a killed run
+    ASSERT_TRUE(Write_File(rest, "rest"));
+    Tockly tockly(desktop, Home());
+    tockly.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    const QString toolbarTop = u"Global_Config_MainForm_Top"_s;
+    const QString user = u"HKEY_CURRENT_USER.reg"_s;
+    EXPECT_TRUE(Wait_Until([&] { return Line_Has_Text(); }));
+    // It has fired, which the record notes.
+    EXPECT_TRUE(Wait_Until([&] { return File_Bytes(Reminders()) != before; }, 6000));
+    Click(Strip, MessageLine);
+    Keys({u"ctrl+Down"_s, u"ctrl+Down"_s});
+    EXPECT_TRUE(Wait_Until(
+        [&] { return !Registry_Value(Home(), user, toolbarTop).endsWith(u"00000000"_s); }, 6000));
+    tockly.Signal(SIGKILL);
+    tockly.Wait_For_End();
+    EXPECT_EQ(File_Bytes(Reminders()).size(), before.size());
+    EXPECT_FALSE(QFile::exists(rest));
+    EXPECT_EQ(QDir(Home()).entryList({u".tockly-*.tmp"_s}, QDir::Files | QDir::Hidden),
+              QStringList());
+    Tockly again(desktop, Home());
+    again.Start();
+    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    EXPECT_GT(desktop.Geometry(Strip_Window()).top(), 0);
+}
+
 } // namespace

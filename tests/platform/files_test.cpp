@@ -95,6 +95,18 @@ TEST_P(FilesContract, a_full_disk_leaves_the_old_file_and_nothing_else) {
     EXPECT_EQ(Names(), QStringList{u"a"_s});
 }
 
+TEST_P(FilesContract, what_a_killed_run_left_is_swept_away_and_nothing_else) {
+    const QString rest = u".tockly-%1-7.tmp"_s;
+    const QString mine = rest.arg(getpid());
+    const QString running = rest.arg(1); // of a process that runs
+    for (const QString& name : {mine, rest.arg(999999999), running, u"tockly-1-1.tmp"_s,
+                                u".tockly-1-1.tmp.txt"_s, u"notes.dat"_s})
+        ASSERT_TRUE(Tested().Replace(Path(name), "x"));
+    Tested().Sweep(folder.path());
+    EXPECT_EQ(Names(), (QStringList{u".tockly-1-1.tmp.txt"_s, running, u"notes.dat"_s,
+                                    u"tockly-1-1.tmp"_s}));
+}
+
 INSTANTIATE_TEST_SUITE_P(All, FilesContract, testing::Values(Kind::Fake, Kind::System),
                          [](const auto& one) {
                              return one.param == Kind::Fake ? "Fake" : "System";

@@ -40,6 +40,8 @@ public:
         const std::optional<std::string> content = Read(from);
         return content && Replace(to, *content);
     }
+    platform::FileStamp Stamp(const QString& path) override { return system->Stamp(path); }
+    void Sweep(const QString& folder) override { system->Sweep(folder); }
     bool Make_Folder(const QString& path) override {
         return !Named(refusedWrites, path) && system->Make_Folder(path);
     }

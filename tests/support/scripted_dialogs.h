@@ -5,6 +5,7 @@
 #include "platform/dialogs.h"
 #include "support/provided.h"
 
+#include <QStringList>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -30,6 +31,7 @@ public:
     // Runs while a box is "open", as events do under a modal box.
     std::function<void(const Box&)> whileOpen;
     bool dismissed = false;
+    QStringList notices; // boxes that wait for nobody
 
     ~ScriptedDialogs() override {
         for (const Step& step : script) {
@@ -61,6 +63,7 @@ public:
     void Show_Message(const QString& text, const platform::BoxLook& look) override {
         Show({Kind::Message, text, look.Style, false, look.Title, {}, {}});
     }
+    void Notice(const QString& text, platform::BoxStyle) override { notices.append(text); }
     platform::Answer Question(const QString& text, bool withCancel,
                               const platform::BoxLook& look) override {
         const Step step = Show({Kind::Question, text, look.Style, withCancel, look.Title, {}, {}});

@@ -1,8 +1,6 @@
 #include "links/store/link_rec.h"
 
-#include "core/damaged_file.h"
 #include "core/record_stream.h"
-#include "platform/files.h"
 
 #include <algorithm>
 
@@ -22,7 +20,7 @@ constexpr int WrongHeader = -1;
 constexpr int UnknownVersion = -2;
 constexpr int Damaged = 1;
 
-DamagedFile File_OfLinks;
+TableFile File_OfLinks;
 
 int Read_Rows(RecordReader& stream) {
     if (stream.Get_Header(FileHeader.size()) != FileHeader)
@@ -100,7 +98,7 @@ void Build_Program_Links() {
 }
 
 int Load_Links_File(const QString& fileName) {
-    const std::optional<std::string> bytes = platform::Files::Get().Read(fileName);
+    const std::optional<std::string> bytes = File_OfLinks.Read(fileName);
     int result = Damaged;
     if (bytes) {
         RecordReader stream(*bytes);
@@ -110,7 +108,7 @@ int Load_Links_File(const QString& fileName) {
     return result;
 }
 
-bool Save_Links_File(const QString& fileName) {
+std::optional<std::string> Encode_Links() {
     const std::size_t count = Link_Count(Global_LinkArray);
     RecordWriter stream;
     stream.Put_Header(FileHeader);
@@ -123,5 +121,14 @@ bool Save_Links_File(const QString& fileName) {
         stream.Put_RecString(row.Description);
         stream.Put_Byte(row.StartSize);
     }
-    return !stream.Failed() && File_OfLinks.Save(fileName, stream.Bytes());
+    return stream.Failed() ? std::nullopt : std::optional(stream.Bytes());
+}
+
+TableFile& Links_File() {
+    return File_OfLinks;
+}
+
+bool Save_Links_File(const QString& fileName) {
+    const std::optional<std::string> bytes = Encode_Links();
+    return bytes && File_OfLinks.Save(fileName, *bytes);
 }

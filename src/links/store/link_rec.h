@@ -1,9 +1,13 @@
 // One row of the user's links: its depth in the menu and its kind are the first characters of URL.
 #pragma once
 
+#include "core/table_file.h"
+
 #include <QString>
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 struct LinkRec {
@@ -30,3 +34,7 @@ void Build_Program_Links();
 int Load_Links_File(const QString& fileName);
 // False: nothing was replaced.
 bool Save_Links_File(const QString& fileName);
+// The bytes of that file; nothing when a text is too long for its field.
+std::optional<std::string> Encode_Links();
+// The table's file, for who writes it beside the interface.
+TableFile& Links_File();

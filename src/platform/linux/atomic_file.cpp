@@ -3,6 +3,7 @@
 #include "platform/linux/descriptor.h"
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -46,7 +47,7 @@ void Sync_Folder(const std::string& path) {
 
 // A file beside the target with a name that no other has; path receives the name.
 Descriptor Make_Beside(const std::string& target, unsigned mode, std::string& path) {
-    static unsigned counter = 0;
+    static std::atomic<unsigned> counter = 0;
     for (int attempt = 0; attempt < 100; ++attempt) {
         // Short and without the target's name, which may be as long as names can be.
         path = Folder_Of(target) + "/.tockly-" + std::to_string(getpid()) + "-" +

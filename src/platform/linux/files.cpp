@@ -7,11 +7,16 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace platform {
 
@@ -36,6 +41,10 @@ std::optional<std::string> Read_All(int file) {
     }
 }
 
+bool Is_Running(pid_t process) {
+    return process != getpid() && (kill(process, 0) == 0 || errno != ESRCH);
+}
+
 class LinuxFiles : public Files {
 public:
     bool Exists(const QString& path) override { return QFileInfo::exists(path); }
@@ -57,6 +66,25 @@ public:
     bool Copy(const QString& from, const QString& to, bool overwrite) override {
         const std::optional<std::string> content = Read(from);
         return content && (overwrite || !Exists(to)) && Replace(to, *content);
+    }
+
+    FileStamp Stamp(const QString& path) override {
+        struct stat found {};
+        if (stat(Native(path).c_str(), &found) != 0 || !S_ISREG(found.st_mode)) {
+            return {};
+        }
+        return {found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
+    }
+
+    void Sweep(const QString& folder) override {
+        static const QRegularExpression temporary(u"^\\.tockly-([0-9]+)-[0-9]+\\.tmp$"_s);
+        for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
+            const auto name = temporary.match(file.fileName());
+            // A shared folder may be another run's, which is writing just now.
+            if (name.hasMatch() && !Is_Running(name.captured(1).toInt())) {
+                QFile::remove(file.filePath());
+            }
+        }
     }
 
     bool Make_Folder(const QString& path) override {

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <map>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -46,39 +47,47 @@ bool Set_Run_Command(RegistryTree& tree, const std::optional<QString>& command) 
 class LinuxRegistry : public Registry {
 public:
     bool Create_Key(RegistryRoot root, const QString& path) override {
+        const std::scoped_lock lock(access);
         return Key_Exists(root, path) ||
                Change(root, [&](RegistryTree& tree) { return tree.Create_Key(path); });
     }
 
     bool Key_Exists(RegistryRoot root, const QString& path) override {
+        const std::scoped_lock lock(access);
         return Tree(root).Key_Exists(path);
     }
 
     bool Delete_Key(RegistryRoot root, const QString& path) override {
+        const std::scoped_lock lock(access);
         return Change(root, [&](RegistryTree& tree) { return tree.Delete_Key(path); });
     }
 
     std::vector<QString> Sub_Keys(RegistryRoot root, const QString& path) override {
+        const std::scoped_lock lock(access);
         return Tree(root).Sub_Keys(path);
     }
 
     std::optional<RegistryValue> Read(RegistryRoot root, const QString& path,
                                       const QString& name) override {
+        const std::scoped_lock lock(access);
         return Tree(root).Read(path, name);
     }
 
     bool Write(RegistryRoot root, const QString& path, const QString& name,
                const RegistryValue& value) override {
+        const std::scoped_lock lock(access);
         // Most settings are written back as they were: that costs no file.
         return Read(root, path, name) == value ||
                Change(root, [&](RegistryTree& tree) { return tree.Write(path, name, value); });
     }
 
     bool Delete_Value(RegistryRoot root, const QString& path, const QString& name) override {
+        const std::scoped_lock lock(access);
         return Change(root, [&](RegistryTree& tree) { return tree.Delete_Value(path, name); });
     }
 
     std::vector<QString> Value_Names(RegistryRoot root, const QString& path) override {
+        const std::scoped_lock lock(access);
         return Tree(root).Value_Names(path);
     }
 
@@ -126,6 +135,7 @@ private:
     }
 
     std::map<RegistryRoot, RegistryFile> files;
+    std::recursive_mutex access; // settings are saved beside the interface
 };
 
 } // namespace

@@ -1,13 +1,10 @@
 #include "platform/linux/registry_file.h"
 
-#include "platform/files.h"
 #include "platform/providers.h"
 #include "platform/reg_text.h"
 
-#include <QFile>
 #include <QFileInfo>
 
-#include <sys/stat.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -17,27 +14,23 @@ namespace platform {
 RegistryFile::RegistryFile(RegistryRoot keptRoot, QString keptPath)
     : root(keptRoot), path(std::move(keptPath)) {}
 
-RegistryFile::Stamp RegistryFile::Read_Stamp() const {
-    struct stat found {};
-    if (stat(QFile::encodeName(path).constData(), &found) != 0) {
-        return {};
-    }
-    return {found.st_ino, found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
-}
-
 const RegistryTree& RegistryFile::Tree() {
-    const Stamp now = Read_Stamp();
+    const auto files = Make_Files();
+    const FileStamp now = files->Stamp(path);
     if (isLoaded && now == stamp) {
         return tree;
+    }
+    if (!isLoaded) {
+        files->Sweep(QFileInfo(path).path());
     }
     isLoaded = true;
     stamp = now;
     condition = Condition::Good;
     tree = {};
-    if (now.size < 0) {
+    if (!files->Exists(path)) {
         return tree;
     }
-    const auto text = Make_Files()->Read(path);
+    const auto text = files->Read(path);
     if (!text) {
         condition = Condition::Unreadable;
         return tree;
@@ -78,7 +71,7 @@ bool RegistryFile::Change(const std::function<bool(RegistryTree&)>& step) {
     }
     tree = std::move(changed);
     condition = Condition::Good;
-    stamp = Read_Stamp();
+    stamp = files->Stamp(path);
     return true;
 }
 

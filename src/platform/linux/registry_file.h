@@ -1,9 +1,9 @@
 // One root of the registry, kept in a text file of the registry editor's form.
 #pragma once
 
+#include "platform/files.h"
 #include "platform/registry_tree.h"
 
-#include <cstdint>
 #include <functional>
 
 namespace platform {
@@ -22,22 +22,14 @@ public:
     bool Change(const std::function<bool(RegistryTree&)>& step);
 
 private:
-    struct Stamp {
-        std::uint64_t inode = 0;
-        std::int64_t size = -1; // -1: there is no file
-        std::int64_t seconds = 0;
-        std::int64_t nanoseconds = 0;
-        bool operator==(const Stamp&) const = default;
-    };
     enum class Condition { Good, Damaged, Unreadable };
 
-    Stamp Read_Stamp() const;
     bool Keep_Damaged() const;
 
     RegistryRoot root;
     QString path;
     RegistryTree tree;
-    Stamp stamp;
+    FileStamp stamp;
     bool isLoaded = false;
     Condition condition = Condition::Good;
 };
