@@ -62,7 +62,8 @@ void Form::Centre_OnScreen() {
     const QRect screen = The_Screen();
     const int room = screen.height() - height();
     move(screen.left() + std::max((screen.width() - width()) / 2, 0),
-         screen.top() + std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
+         screen.top() +
+             std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
 }
 
 void Form::Present() {

@@ -8,9 +8,8 @@
 #include <algorithm>
 
 QRect Screen_Holding(const std::vector<QRect>& screens, const QPoint& place) {
-    const auto found = std::find_if(screens.begin(), screens.end(), [&](const QRect& screen) {
-        return screen.contains(place);
-    });
+    const auto found = std::find_if(screens.begin(), screens.end(),
+                                    [&](const QRect& screen) { return screen.contains(place); });
     return found == screens.end() ? screens.front() : *found;
 }
 
@@ -22,7 +21,8 @@ bool Is_OnScreens(const std::vector<QRect>& screens, const QRect& area) {
 }
 
 QRect Moved_Into(const QRect& screen, QRect area) {
-    area.moveLeft(std::max(std::min(area.left(), screen.right() + 1 - area.width()), screen.left()));
+    area.moveLeft(
+        std::max(std::min(area.left(), screen.right() + 1 - area.width()), screen.left()));
     area.moveTop(std::max(std::min(area.top(), screen.bottom() + 1 - area.height()), screen.top()));
     return area;
 }

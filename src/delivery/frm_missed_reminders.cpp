@@ -97,9 +97,8 @@ void frmMissedReminders::Place_Window() {
     // The window manager's frame is known only once it is there: the style's title bar stands for
     // it.
     const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
-    const MissedPlace place =
-        Place_MissedWindow(static_cast<int>(entries.size()), widest, frame,
-                           Global_Toolbar->Bounds(), The_Screen());
+    const MissedPlace place = Place_MissedWindow(static_cast<int>(entries.size()), widest, frame,
+                                                 Global_Toolbar->Bounds(), The_Screen());
     resize(place.Width, place.Height - frame);
     move(place.Left, place.Top);
 }

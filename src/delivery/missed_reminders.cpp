@@ -100,8 +100,7 @@ MissedPlace Place_MissedWindow(int rows, int widestText, int frameHeight,
     place.Top = toolbar.Bottom + FromToolbar;
     if (place.Top + place.Height > screen.bottom() + 1)
         place.Top = toolbar.Top - FromToolbar - place.Height;
-    const QRect inside =
-        Moved_Into(screen, {toolbar.Left, place.Top, place.Width, place.Height});
+    const QRect inside = Moved_Into(screen, {toolbar.Left, place.Top, place.Width, place.Height});
     place.Top = inside.top();
     place.Left = inside.left();
     return place;

@@ -75,11 +75,9 @@ std::int32_t Held_Inside(std::int32_t place, std::int32_t length, std::int32_t f
     return place < from - Overhang ? from : place;
 }
 
-bool Fits(const ToolbarRect& toolbar, const QRect& screen, NearSide side,
-          std::int32_t column) {
+bool Fits(const ToolbarRect& toolbar, const QRect& screen, NearSide side, std::int32_t column) {
     const std::int32_t left = Column_Left(toolbar, screen, side, column);
-    return left >= screen.left() - Overhang &&
-           left + WindowWidth <= screen.right() + 1 + Overhang;
+    return left >= screen.left() - Overhang && left + WindowWidth <= screen.right() + 1 + Overhang;
 }
 
 bool Reaches_Upward(const ToolbarRect& toolbar, const QRect& screen) {
@@ -206,6 +204,6 @@ std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const Windo
 }
 
 QPoint Centered_Place(const QRect& screen, const QSize& window) {
-    return screen.topLeft() + QPoint((screen.width() - window.width()) / 2,
-                                     (screen.height() - window.height()) / 2);
+    return screen.topLeft() +
+           QPoint((screen.width() - window.width()) / 2, (screen.height() - window.height()) / 2);
 }

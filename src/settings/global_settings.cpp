@@ -54,9 +54,8 @@ std::int32_t Always(const SettingsDefaults& /*defaults*/) {
 }
 
 std::int32_t Centred_Left(const SettingsDefaults& defaults) {
-    return defaults.ScreenLeft +
-           static_cast<std::int32_t>(
-        std::lrint(defaults.ScreenWidth / 2.0 - defaults.ToolbarWidth / 2.0));
+    return defaults.ScreenLeft + static_cast<std::int32_t>(std::lrint(defaults.ScreenWidth / 2.0 -
+                                                                      defaults.ToolbarWidth / 2.0));
 }
 
 // All values, in the order in which they are read.
@@ -77,7 +76,9 @@ const std::array Rows{
     SettingRow{"Global_Config_MainForm_Left", SettingKey::User, &Global_Config_MainForm_Left,
                Centred_Left},
     SettingRow{"Global_Config_Textbox_Top", SettingKey::User, &Global_Config_Textbox_Top,
-               [](const SettingsDefaults& defaults) { return defaults.ScreenTop + 30 * defaults.TwipsPerPixelY; }},
+               [](const SettingsDefaults& defaults) {
+                   return defaults.ScreenTop + 30 * defaults.TwipsPerPixelY;
+               }},
     SettingRow{"Global_Config_Textbox_Left", SettingKey::User, &Global_Config_Textbox_Left,
                [](const SettingsDefaults& defaults) {
                    return defaults.ScreenLeft + defaults.ScreenWidth - defaults.TextboxWidth;

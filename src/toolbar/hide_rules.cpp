@@ -37,7 +37,8 @@ HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, const QRect& s
         return HideMode::Bottom;
     }
     // Doubled, so that odd widths keep their half pixels.
-    return scaleWidth + screen.width() >= (bounds.Right - screen.left()) * 2 ? HideMode::Left : HideMode::Right;
+    return scaleWidth + screen.width() >= (bounds.Right - screen.left()) * 2 ? HideMode::Left
+                                                                             : HideMode::Right;
 }
 
 bool AutoHide_Is_Due(const AutoHideMoment& moment) {

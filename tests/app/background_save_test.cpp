@@ -1,6 +1,5 @@
 // What changes is on the disk soon, beside an interface that goes on.
 #include "app/background_save.h"
-
 #include "core/categories.h"
 #include "core/record_stream.h"
 #include "support/fake_system.h"

@@ -116,9 +116,8 @@ TEST_F(Missed, The_window_stands_beside_the_toolbar_and_on_the_screen) {
         {"wider than the screen", 1, 90000, {467, 0, 800, 20}, {800, 600}, {0, 35, 800, 72}},
         {"toolbar off the screen", 1, 50, {-50, 900, 283, 920}, {800, 600}, {0, 528, 220, 72}}};
     for (const Case& row : cases)
-        EXPECT_EQ(
-            Place_MissedWindow(row.rows, row.widest, 20, row.toolbar, {QPoint(), row.screen}),
-            row.place)
+        EXPECT_EQ(Place_MissedWindow(row.rows, row.widest, 20, row.toolbar, {QPoint(), row.screen}),
+                  row.place)
             << row.name;
 }
 

@@ -19,5 +19,4 @@ bool Is_WebLink(const QUrl& url);
 
 // The top left corner of a viewer of this size, its frame included; pixels. Below the toolbar, or
 // above it where there is no room below; always on the screen, as far as it fits there.
-QPoint Help_Place(const ToolbarRect& toolbar, const QSize& viewer,
-                           const QRect& screen);
+QPoint Help_Place(const ToolbarRect& toolbar, const QSize& viewer, const QRect& screen);

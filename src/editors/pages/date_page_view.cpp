@@ -195,8 +195,7 @@ void DatePage::View::Build_Start() {
     Add_DateRow(StartField, StartOn, group, StartFrame.top() + 61);
     Add_WeekOptions(StartThis, StartFrame.top() + 90);
     Add_Weekdays(StartMonday, group, left, StartFrame.top() + 108);
-    pages::Add_Caption(u"Runs from the day after on."_s, left,
-                       StartFrame.top() + 191, &page);
+    pages::Add_Caption(u"Runs from the day after on."_s, left, StartFrame.top() + 191, &page);
     Add_TooltipPicture(6, StartFrame, &page);
 }
 
