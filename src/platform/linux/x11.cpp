@@ -51,18 +51,25 @@ std::uint8_t Map_State(xcb_window_t window) {
 }
 
 // Requests on windows that others own can fail at any time: the error is ours, not the toolkit's.
-void Finish(xcb_void_cookie_t request) {
-    xcb_discard_reply(Connection(), request.sequence);
-    xcb_flush(Connection());
+// The server may have gone since the connection was asked for, which the request survives.
+void Finish(xcb_connection_t* server, xcb_void_cookie_t request) {
+    xcb_discard_reply(server, request.sequence);
+    xcb_flush(server);
+}
+
+// XCB_NONE once the server is gone, which another thread of the toolkit's may notice at any time.
+xcb_window_t Root_Of(xcb_connection_t* server) {
+    const xcb_setup_t* setup = xcb_get_setup(server);
+    return setup == nullptr ? xcb_window_t{XCB_NONE} : xcb_setup_roots_iterator(setup).data->root;
 }
 
 // A change of a property on a window of its own is answered with the server's time.
 std::uint32_t Ask_Time(xcb_connection_t* server) {
-    const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(server)).data;
     const xcb_window_t window = xcb_generate_id(server);
     const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(server, 0, window, screen->root, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                      XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+    xcb_create_window(server, 0, window, Root_Of(server), -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &events);
     xcb_change_property(server, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
                         0, nullptr);
     xcb_flush(server);
@@ -90,8 +97,7 @@ xcb_connection_t* Connection() {
 
 xcb_window_t Root() {
     xcb_connection_t* server = Connection();
-    return server == nullptr ? xcb_window_t{0}
-                             : xcb_setup_roots_iterator(xcb_get_setup(server)).data->root;
+    return server == nullptr ? xcb_window_t{XCB_NONE} : Root_Of(server);
 }
 
 xcb_atom_t Atom(const char* name) {
@@ -126,15 +132,15 @@ QByteArray Bytes(xcb_window_t window, const char* property) {
 void Set_Items(xcb_window_t window, const char* property, xcb_atom_t type,
                const std::vector<std::uint32_t>& items) {
     if (xcb_connection_t* server = Connection()) {
-        Finish(xcb_change_property_checked(server, XCB_PROP_MODE_REPLACE, window, Atom(property),
-                                           type, 32, static_cast<std::uint32_t>(items.size()),
-                                           items.data()));
+        Finish(server, xcb_change_property_checked(
+                           server, XCB_PROP_MODE_REPLACE, window, Atom(property), type, 32,
+                           static_cast<std::uint32_t>(items.size()), items.data()));
     }
 }
 
 void Remove_Property(xcb_window_t window, const char* property) {
     if (xcb_connection_t* server = Connection()) {
-        Finish(xcb_delete_property_checked(server, window, Atom(property)));
+        Finish(server, xcb_delete_property_checked(server, window, Atom(property)));
     }
 }
 
@@ -150,10 +156,10 @@ void Tell_Manager(xcb_window_t window, const char* message,
     event.window = window;
     event.type = Atom(message);
     std::copy(data.begin(), data.end(), std::begin(event.data.data32));
-    Finish(xcb_send_event_checked(server, 0, Root(),
-                                  XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY |
-                                      XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                                  reinterpret_cast<const char*>(&event)));
+    Finish(server, xcb_send_event_checked(server, 0, Root(),
+                                          XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY |
+                                              XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                                          reinterpret_cast<const char*>(&event)));
 }
 
 bool Is_Mapped(xcb_window_t window) {
