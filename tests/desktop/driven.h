@@ -76,6 +76,46 @@ protected:
         })) << qPrintable(title);
         return window;
     }
+    // A row of the program's own links.
+    void Choose_OwnLink(const char* row, const QString& title) const {
+        // The menu before has faded out.
+        EXPECT_TRUE(Wait_Until([&] { return desktop.Controls(u"My Links"_s).empty(); }));
+        Click(Strip, {"push button", "My Links"});
+        Click(u"My Links"_s, {"menu item", "Tockly"});
+        Click(u"Tockly"_s, {"menu item", row});
+        Wait_For_Focus(title);
+    }
+    // The key that is held says what the button does.
+    void Press_Close(const QString& key, const QPoint& button) const {
+        if (!key.isEmpty()) {
+            desktop.XDo({u"keydown"_s, key});
+        }
+        Click(button);
+        if (!key.isEmpty()) {
+            desktop.XDo({u"keyup"_s, key});
+        }
+    }
+    bool Is_Collapsed() const { return desktop.Geometry(Strip_Window()).height() == 8; }
+    void Click_Rest() const { Click(Strip, {"push button", "Click here to show the toolbar"}); }
+    bool Any_Fades() const {
+        const QStringList windows = desktop.Search({u"--class"_s, u"^tockly$"_s});
+        return std::any_of(windows.begin(), windows.end(), [this](const QString& window) {
+            return desktop.Property(window, u"_NET_WM_WINDOW_OPACITY"_s).contains(u'=');
+        });
+    }
+    // Without a tray the strip collapses instead: as long as the panel has not brought its tray up.
+    bool Hide_Completely() const {
+        return Wait_Until([&] {
+            Wait_Until([&] { return !Any_Fades(); }); // it stays in the fade of any window
+            Press_Close(u"shift"_s, Place(Strip, CloseButton));
+            Wait_Until([&] { return Count(Strip) == 0 || Is_Collapsed(); }, 8000);
+            if (!Is_Collapsed()) {
+                return Count(Strip) == 0;
+            }
+            Click_Rest();
+            return false;
+        });
+    }
     // A later launch gives the strip the keyboard.
     void Launch_Again() const {
         Tockly second(desktop, Home());

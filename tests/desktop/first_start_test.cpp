@@ -36,15 +36,6 @@ protected:
         Click(SetupTitle, {"push button", "Finish"});
         Wait_Until_Gone(SetupTitle);
     }
-    // A row of the program's own menu.
-    void Choose_OwnLink(const char* row, const QString& title) const {
-        // The menu before has faded out.
-        EXPECT_TRUE(Wait_Until([&] { return Windows_OfProgram() == 1; }));
-        Click(Strip, {"push button", "My Links"});
-        Click(u"My Links"_s, {"menu item", "Tockly"});
-        Click(u"Tockly"_s, {"menu item", row});
-        Wait_For_Focus(title);
-    }
     void Leave(const QString& title) const {
         Wait_For_Focus(title);
         Keys({u"Escape"_s});

@@ -25,32 +25,11 @@ protected:
         ASSERT_TRUE(desktop.Wait_For_Window(Strip));
         closeButton = Place(Strip, CloseButton);
     }
-    // key: held while the close button is clicked, wherever the strip is by then.
+    // Wherever the strip is by then.
     void Click_Close(const QString& key = {}) {
-        if (!key.isEmpty()) {
-            desktop.XDo({u"keydown"_s, key});
-        }
-        Click(closeButton);
-        if (!key.isEmpty()) {
-            desktop.XDo({u"keyup"_s, key});
-        }
+        Press_Close(key, closeButton);
         desktop.XDo(Move_To(Away));
     }
-    void Click_Rest() const { Click(Strip, {"push button", "Click here to show the toolbar"}); }
-    // Without a tray the strip collapses instead: as long as the panel has not brought its tray up.
-    bool Hide_Completely() {
-        return Wait_Until([&] {
-            Click_Close(u"shift"_s);
-            Wait_Until([&] { return Count(Strip) == 0 || Is_Collapsed(); }, 8000);
-            if (!Is_Collapsed()) {
-                return Count(Strip) == 0;
-            }
-            Click_Rest();
-            Stands_At(Full);
-            return false;
-        });
-    }
-    bool Is_Collapsed() const { return desktop.Geometry(Strip_Window()).height() == 8; }
     void Expect_States() {
         const QString state = desktop.Property(Strip_Window(), u"_NET_WM_STATE"_s);
         EXPECT_TRUE(state.contains(u"_ABOVE"_s) && state.contains(u"_SKIP_TASKBAR"_s) &&

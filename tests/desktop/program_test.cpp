@@ -139,20 +139,6 @@ TEST_F(Whole, The_End_In_The_Middle_Of_Something_Saves_What_There_Is) {
     }
 }
 
-TEST_F(Whole, The_Loss_Of_The_Screen_Saves_Too) {
-    Give_Examples();
-    Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    ASSERT_EQ(Reminder_Count(Reminders()), -1);
-    desktop.Kill_Screen();
-    tockly.Wait_For_End();
-    EXPECT_FALSE(tockly.Is_Running());
-    EXPECT_EQ(Reminder_Count(Reminders()), 5);
-    EXPECT_EQ(Registry_Value(Home(), u"HKEY_CURRENT_USER.reg"_s, u"First Time"_s),
-              u"dword:00000000"_s);
-}
-
 TEST_F(Whole, What_Cannot_Be_Saved_Is_Said_And_The_Rest_Is_Saved) {
     ASSERT_TRUE(QDir().mkpath(Reminders()));
     for (const bool byUser : {true, false}) {

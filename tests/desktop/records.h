@@ -15,6 +15,7 @@ struct TestReminder {
     std::int16_t startMinute = -1; // at start-up
     std::int16_t endMinute = 1439;
     std::int16_t everyMinutes = 1439;
+    std::int32_t lastRun = 36526; // as a run leaves it; 1: missed since the year 2000
 };
 
 inline void Put(QByteArray& bytes, std::int64_t value, int size) {
@@ -56,7 +57,7 @@ inline QByteArray Record_Of(const TestReminder& reminder) {
     Put(bytes, reminder.everyMinutes, 2);
     Put_Text(bytes, {});
     Put_Text(bytes, {});
-    Put(bytes, 36526, 4); // ran long ago
+    Put(bytes, reminder.lastRun, 4);
     Put(bytes, 0, 4);
     Put(bytes, 1, 4); // created
     Put(bytes, 0, 4);
