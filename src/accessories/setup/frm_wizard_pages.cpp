@@ -85,7 +85,8 @@ void frmWizard::Add_Steps() {
         PagesPicBox[i]->setGeometry(PageLeft, PageTop, PageWidth, PageHeight);
         PagesPicBox[i]->setAccessibleName(Step_Name(tag));
         PagesPicBox[i]->hide();
-        (this->*fill[i])(PagesPicBox[i]);
+        const auto Fill_Page = fill[i];
+        (this->*Fill_Page)(PagesPicBox[i]);
     }
 }
 

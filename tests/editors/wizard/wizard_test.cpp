@@ -56,7 +56,7 @@ protected:
     static std::string Number(std::int64_t value, int bytes) {
         std::string text;
         for (int byte = 0; byte < bytes; ++byte)
-            text += static_cast<char>(value >> (8 * byte) & 0xFF);
+            text += byte < 8 ? static_cast<char>(value >> (8 * byte) & 0xFF) : '\0';
         return text;
     }
     static std::string Text(const std::string& text, int countBytes = 4) {
