@@ -13,7 +13,7 @@ void Set_HelpTopic(QWidget& window, const QString& page) {
 
 QString HelpTopic_Of(const QWidget& widget) {
     for (const QWidget* window = &widget; window != nullptr; window = window->parentWidget()) {
-        const QString page = window->property(TopicProperty).toString();
+        QString page = window->property(TopicProperty).toString();
         if (!page.isEmpty())
             return page;
     }
