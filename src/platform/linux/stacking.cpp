@@ -48,7 +48,7 @@ std::vector<xcb_window_t> Windows_InOrder() {
         return {};
     }
     const xcb_window_t* first = xcb_query_tree_children(tree);
-    const std::vector<xcb_window_t> windows(first, first + xcb_query_tree_children_length(tree));
+    std::vector<xcb_window_t> windows(first, first + xcb_query_tree_children_length(tree));
     std::free(tree);
     return windows;
 }
