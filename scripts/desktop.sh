@@ -8,7 +8,7 @@ start_desktop() {
   ready=$(mktemp -u)
   mkfifo "$ready"
   # In a session of its own: Ctrl+C is for the program, not for the screen under it.
-  setsid Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp >/dev/null 2>&1 3<>"$ready" &
+  setsid Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset >/dev/null 2>&1 3<>"$ready" &
   desktop_pids+=($!)
   # The server writes its number when it is ready.
   read -r -t 20 number <>"$ready" || { echo "Xvfb did not start" >&2; return 1; }

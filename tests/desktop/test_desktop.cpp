@@ -34,7 +34,7 @@ TestDesktop::TestDesktop(const QString& size)
     auto screen = std::make_unique<QProcess>();
     screen->setStandardErrorFile(QProcess::nullDevice());
     screen->start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, size + "x24"_L1,
-                              u"-nolisten"_s, u"tcp"_s});
+                              u"-nolisten"_s, u"tcp"_s, u"-noreset"_s});
     QByteArray number;
     while (!number.endsWith('\n') && screen->waitForReadyRead(20000)) {
         number += screen->readAllStandardOutput();
