@@ -76,8 +76,6 @@ TEST_F(Launch, A_Second_Launch_Reaches_A_Strip_In_The_Tray_Behind_A_Box_And_Wait
     Click(list, {"push button", "Delete"});
     const QString question = Wait_For_Focus(u"Confirm"_s);
     desktop.XDo({u"windowminimize"_s, question});
-    // A folder cannot be replaced by a file: the end has something to tell.
-    ASSERT_TRUE(QFile::remove(Reminders()) && QDir().mkpath(Reminders()));
     Tockly second(desktop, Home());
     second.Set_Environment(u"XDG_RUNTIME_DIR"_s, Home());
     second.Start();
@@ -87,7 +85,11 @@ TEST_F(Launch, A_Second_Launch_Reaches_A_Strip_In_The_Tray_Behind_A_Box_And_Wait
     Keys({u"Escape"_s});
     Wait_For_Focus(Strip);
 
-    Press_Close(u"ctrl"_s, Place(Strip, CloseButton));
+    const QPoint close = Place(Strip, CloseButton);
+    // A folder cannot be replaced by a file: the end has something to tell, before a save beside
+    // the interface tells it.
+    ASSERT_TRUE(QFile::remove(Reminders()) && QDir().mkpath(Reminders()));
+    Press_Close(u"ctrl"_s, close);
     const QString box = Wait_For_Focus(Box);
     desktop.XDo({u"windowminimize"_s, box});
     Tockly third(desktop, Home());
