@@ -2,12 +2,12 @@
 #pragma once
 
 #include "controls/timers.h"
-#include "controls/toolbar.h"
 #include "core/reminder_store.h"
 #include "delivery/deliver.h"
 #include "delivery/message_line.h"
 #include "delivery/message_queue.h"
 #include "support/fake_clock.h"
+#include "support/fake_toolbar.h"
 #include "support/scripted_dialogs.h"
 
 #include <QStringList>
@@ -31,26 +31,10 @@ struct FakeLine : MessageLine {
     void Clear_Line() override { cleared = true; }
 };
 
-struct FakeToolbar : Toolbar {
-    int shown = 0;
-    ToolbarRect bounds;
-
-    void AutoHide_ShowProc(bool /*skipFade*/) override { ++shown; }
-    ToolbarRect Bounds() const override { return bounds; }
-    void Move_To(int /*left*/, int /*top*/) override {}
-    bool Toolbar_Visible() const override { return true; }
-    bool IsHiding() const override { return false; }
-    void AutoHide_HideProc(HideMode /*mode*/, bool /*forceHide*/) override {}
-    HideMode Get_Best_Auto_HideMode(bool /*forceBest*/) const override { return HideMode::Top; }
-    void Guard_Hiding(const QString& /*reason*/) override {}
-    void Lift_HideGuard() override {}
-};
-
 class DeliveryTest : public testing::Test {
 protected:
     DeliveryTest() {
         Global_Timers = &timers;
-        Global_Toolbar = &toolbar;
         Global_MessageLine = &line;
         Start_Afresh(9, 0, 0);
     }

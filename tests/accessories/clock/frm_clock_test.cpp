@@ -2,13 +2,7 @@
 #include "accessories/clock/frm_clock.h"
 #include "controls/wb_button.h"
 #include "support/fake_system.h"
-#include "support/spoken_name.h"
-
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <numbers>
+#include "support/form_driver.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,25 +15,8 @@ protected:
         clock.Show_At(100, 100);
         clock.SetTime(12 * 60);
     }
-    template <class Control>
-    Control* Named(const QString& name) {
-        for (Control* control : clock.findChildren<Control*>()) {
-            if (Spoken_Name(control) == name)
-                return control;
-        }
-        ADD_FAILURE() << "no control named " << name.toStdString();
-        return nullptr;
-    }
-    // As a person who replaces what the box holds.
-    void Type(const QString& box, const QString& text) {
-        auto* edit = Named<QLineEdit>(box);
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Delete);
-        QTest::keyClicks(edit, text);
-    }
-    QString Boxes() {
-        return Named<QLineEdit>(u"Hours"_s)->text() + u' ' + Named<QLineEdit>(u"Minutes"_s)->text();
-    }
+    QLineEdit* Box(const QString& name) { return Find<QLineEdit>(name, &clock); }
+    QString Boxes() { return Box(u"Hours"_s)->text() + u' ' + Box(u"Minutes"_s)->text(); }
 
     FakeSystem system;
     QLineEdit field;
@@ -67,12 +44,12 @@ TEST_F(ClockTest, What_is_typed_is_held_within_its_limits_and_goes_to_the_target
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.typed.toStdString());
-        Type(c.box, c.typed);
+        Type_Into(Box(c.box), c.typed);
         EXPECT_EQ(Boxes(), c.boxes);
         EXPECT_EQ(field.text(), c.target);
         EXPECT_EQ(clock.MinutesValue(), c.minutes);
     }
-    QTest::keyClick(Named<QLineEdit>(u"Hours"_s), Qt::Key_Return);
+    QTest::keyClick(Box(u"Hours"_s), Qt::Key_Return);
     EXPECT_EQ(Boxes(), u"07 08"_s);
 }
 
@@ -88,19 +65,19 @@ TEST_F(ClockTest, The_clock_follows_its_target_and_nothing_goes_in_circles) {
     EXPECT_EQ(clock.MinutesValue(), 405);
     EXPECT_EQ(field.text(), u"6:45x"_s);
     changes = 0;
-    QTest::mouseClick(Named<wbButton>(u"Minute up"_s), Qt::LeftButton);
+    Click_On<wbButton>(u"Minute up"_s, &clock);
     EXPECT_EQ(field.text(), u"06:46"_s);
     EXPECT_EQ(changes, 1);
     clock.Set_wTextBox(nullptr);
     field.setText(u"1:00"_s);
-    QTest::keyClick(Named<QLineEdit>(u"Hours"_s), Qt::Key_Up);
-    QTest::keyClick(Named<QLineEdit>(u"Minutes"_s), Qt::Key_Down);
+    Keys_To(Box(u"Hours"_s), {Qt::Key_Up});
+    Keys_To(Box(u"Minutes"_s), {Qt::Key_Down});
     EXPECT_EQ(Boxes(), u"07 45"_s);
     EXPECT_EQ(field.text(), u"1:00"_s);
 }
 
 TEST_F(ClockTest, A_held_button_steps_on_and_its_release_adds_no_step) {
-    auto* up = Named<wbButton>(u"Hour up"_s);
+    auto* up = Find<wbButton>(u"Hour up"_s, &clock);
     QTest::mousePress(up, Qt::LeftButton);
     EXPECT_EQ(clock.MinutesValue(), 720);
     ASSERT_TRUE(QTest::qWaitFor([this] { return clock.MinutesValue() >= 840; }));
@@ -119,7 +96,7 @@ TEST_F(ClockTest, A_held_button_steps_on_and_its_release_adds_no_step) {
 }
 
 TEST_F(ClockTest, Escape_and_the_close_box_hide_it_and_it_stays_on_the_screen_and_on_top) {
-    QTest::keyClick(Named<QLineEdit>(u"Hours"_s), Qt::Key_Escape);
+    QTest::keyClick(Box(u"Hours"_s), Qt::Key_Escape);
     EXPECT_FALSE(clock.isVisible());
     clock.Show_At(5000, -20);
     EXPECT_EQ(clock.pos(), QPoint(1280 - clock.width(), 0));
@@ -129,51 +106,21 @@ TEST_F(ClockTest, Escape_and_the_close_box_hide_it_and_it_stays_on_the_screen_an
     EXPECT_FALSE(clock.Is_Unloading());
 }
 
-constexpr int Dark = 110;
-
-// The darkest pixel within one of the place, on the face as it is shown. The hands' middle is the
-// middle of pixel (57, 55).
-int Darkest_At(const QImage& face, double degrees, double along, double across) {
-    const double angle = (degrees - 90) * std::numbers::pi / 180;
-    const double x = 57.5 + along * std::cos(angle) - across * std::sin(angle);
-    const double y = 55.5 + along * std::sin(angle) + across * std::cos(angle);
-    int darkest = 255;
-    for (int dx = -1; dx <= 1; ++dx) {
-        for (int dy = -1; dy <= 1; ++dy)
-            darkest = std::min(darkest, qGray(face.pixel(static_cast<int>(std::floor(x)) + dx,
-                                                         static_cast<int>(std::floor(y)) + dy)));
-    }
-    return darkest;
-}
-
-// Both long sides of the hand at half its length, and its tip.
-void Expect_Hand(const QImage& face, double degrees, const Hand& hand) {
-    EXPECT_LT(Darkest_At(face, degrees, hand.Length - 1, 0), Dark);
-    for (const int side : {-1, 1})
-        EXPECT_LT(Darkest_At(face, degrees, hand.Length / 2, side * hand.BaseWidth / 4), Dark);
-}
-
 TEST_F(ClockTest, The_hands_stand_at_the_angles_of_the_time) {
-    struct Case {
-        const char* time;
-        int minutes;
-        double minuteAngle;
-        double hourAngle;
-    };
-    const Case cases[] = {
-        {"3:00", 180, 0, 90},
-        {"12:30", 750, 180, 15},
-        {"6:45", 405, 270, 202.5},
-        {"16:16", 976, 96, 128},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.time);
-        clock.SetTime(c.minutes);
+    // The middle of the face is the middle of pixel (57, 55); a hand's sides meet near its tip.
+    const std::tuple<int, QPoint, QPoint> cases[] = {
+        {180, {57, 20}, {79, 55}}, {405, {22, 55}, {47, 77}}, {750, {57, 90}, {63, 33}}};
+    for (const auto& [minutes, minuteHand, hourHand] : cases) {
+        clock.SetTime(minutes);
         const QImage face = clock.findChild<ClockPicture*>()->grab().toImage();
-        Expect_Hand(face, c.minuteAngle, MinuteHand);
-        Expect_Hand(face, c.hourAngle, HourHand);
-        EXPECT_GT(Darkest_At(face, c.minuteAngle + 180, 30, 0), Dark);
-        EXPECT_GT(Darkest_At(face, c.hourAngle, HourHand.Length + 5, 0), Dark);
+        for (const auto& [at, isHand] : {std::pair(minuteHand, true), std::pair(hourHand, true),
+                                         std::pair(QPoint(114, 110) - minuteHand, false)}) {
+            int darkest = 255;
+            for (int pixel = 0; pixel < 25; ++pixel)
+                darkest =
+                    std::min(darkest, qGray(face.pixel(at + QPoint(pixel % 5 - 2, pixel / 5 - 2))));
+            EXPECT_EQ(darkest < 110, isHand) << minutes << ' ' << at.x() << ' ' << at.y();
+        }
     }
 }
 

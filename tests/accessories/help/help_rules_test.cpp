@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(HelpRules, OnlyPagesBelowTheHelpFolderAreShown) {
+TEST(HelpRules, Only_pages_below_the_help_folder_are_shown) {
     QTemporaryDir home;
     const QString folder = home.filePath(u"help"_s);
     QDir().mkpath(folder + u"/sub dir.html"_s);
@@ -52,7 +52,7 @@ TEST(HelpRules, OnlyPagesBelowTheHelpFolderAreShown) {
     EXPECT_FALSE(Is_HelpPage(QString(), QUrl(u"file:///etc/a.html"_s)));
 }
 
-TEST(HelpRules, TheViewerStandsBelowTheToolbarAndOnTheScreen) {
+TEST(HelpRules, The_viewer_stands_below_the_toolbar_and_on_the_screen) {
     const struct {
         const char* name;
         ToolbarRect toolbar;

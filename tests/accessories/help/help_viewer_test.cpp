@@ -1,5 +1,4 @@
 // The help viewer, and the pages that come with the program.
-#include "accessories/help/fake_toolbar.h"
 #include "accessories/help/frm_html_view.h"
 #include "accessories/help/help.h"
 #include "accessories/help/help_browser.h"
@@ -8,14 +7,13 @@
 #include "controls/help_topic.h"
 #include "controls/unload_queue.h"
 #include "support/fake_system.h"
+#include "support/fake_toolbar.h"
+#include "support/form_driver.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QImage>
-#include <QLineEdit>
 #include <QPointer>
 #include <QRegularExpression>
-#include <QTest>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -43,25 +41,16 @@ protected:
             open->close();
         Unload_PendingForms();
     }
-    static frmHTMLview* Window() {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* view = qobject_cast<frmHTMLview*>(window); view && view->isVisible())
-                return view;
-        return nullptr;
-    }
+    static frmHTMLview* Window() { return Open_Window<frmHTMLview>(); }
     static HelpBrowser* Browser() { return Window()->findChild<HelpBrowser*>(); }
     static QString Text() { return Browser()->toPlainText(); }
-    static void Focus(QWidget* window) {
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-    }
 
     FakeSystem system;
     FakeToolbar toolbar;
     QString folder;
 };
 
-TEST_F(HelpViewer, ASecondRequestTurnsThePageOfTheWindowThatFollowsTheToolbar) {
+TEST_F(HelpViewer, A_second_request_turns_the_page_of_the_window_that_follows_the_toolbar) {
     Update_HelpTopic(u"one.html"_s);
     EXPECT_EQ(Window(), nullptr) << "a topic opens no viewer";
     Show_HelpPage(u"one.html"_s);
@@ -86,7 +75,7 @@ TEST_F(HelpViewer, ASecondRequestTurnsThePageOfTheWindowThatFollowsTheToolbar) {
     EXPECT_FALSE(Global_HelpLoaded);
 }
 
-TEST_F(HelpViewer, F1OpensThePageOfAWindowAndComingBackToOneTurnsToIt) {
+TEST_F(HelpViewer, F1_opens_the_page_of_a_window_and_coming_back_to_one_turns_to_it) {
     HelpKeys keys;
     QWidget one;
     QWidget two;
@@ -96,25 +85,25 @@ TEST_F(HelpViewer, F1OpensThePageOfAWindowAndComingBackToOneTurnsToIt) {
     Set_HelpTopic(two, u"two.html"_s);
     for (QWidget* window : {&one, &two, &owned})
         window->show();
-    Focus(&owned);
+    Give_Focus(&owned);
     QTest::keyClick(&field, Qt::Key_F1);
     EXPECT_EQ(Text(), u"page two"_s) << "a window without a page has that of its owner";
-    Focus(Window());
-    Focus(&one);
+    Give_Focus(Window());
+    Give_Focus(&one);
     EXPECT_EQ(Text(), u"page one"_s);
-    Focus(Window());
+    Give_Focus(Window());
     EXPECT_EQ(Text(), u"page one"_s);
     QTest::keyClick(Browser(), Qt::Key_F1);
     EXPECT_EQ(Text(), u"page contents"_s);
-    Focus(&one);
+    Give_Focus(&one);
     Show_HelpPage(u"contents.html"_s);
-    Focus(&two); // where the focus passes before it gets to the viewer
+    Give_Focus(&two); // where the focus passes before it gets to the viewer
     EXPECT_EQ(Text(), u"page two"_s);
-    Focus(Window());
+    Give_Focus(Window());
     EXPECT_EQ(Text(), u"page contents"_s) << "the page that was asked for";
 }
 
-TEST_F(HelpViewer, AMissingPageSaysSoAndLeadsBack) {
+TEST_F(HelpViewer, A_missing_page_says_so_and_leads_back) {
     Show_HelpPage(u"../none.html"_s);
     EXPECT_TRUE(Text().contains(u"\"none.html\" could not be found"_s));
     QTest::keyClick(Browser(), Qt::Key_Tab);
@@ -122,7 +111,7 @@ TEST_F(HelpViewer, AMissingPageSaysSoAndLeadsBack) {
     EXPECT_EQ(Text(), u"page contents"_s);
 }
 
-TEST_F(HelpViewer, APictureFitsIntoThePageAndTheWheelChangesTheText) {
+TEST_F(HelpViewer, A_picture_fits_into_the_page_and_the_wheel_changes_the_text) {
     // Lines of one pixel: grey in a copy that was scaled well.
     QImage picture(900, 40, QImage::Format_RGB32);
     for (int at = 0; at < 900 * 40; ++at)
@@ -130,7 +119,7 @@ TEST_F(HelpViewer, APictureFitsIntoThePageAndTheWheelChangesTheText) {
     picture.save(folder + u"/wide.png"_s);
     Write_File(folder + u"/one.html"_s, "<p><img src='wide.png'></p>");
     Show_HelpPage(u"one.html"_s);
-    Focus(Window());
+    Give_Focus(Window());
     const QImage seen = Browser()->grab().toImage();
     EXPECT_LT(std::abs(seen.pixelColor(100, 15).red() - seen.pixelColor(100, 15).blue()), 80);
     EXPECT_EQ(seen.pixelColor(seen.width() - 2, 15), QColor(Qt::white));
@@ -144,7 +133,7 @@ TEST_F(HelpViewer, APictureFitsIntoThePageAndTheWheelChangesTheText) {
     EXPECT_GT(Browser()->document()->defaultFont().pixelSize(), text);
 }
 
-TEST_F(HelpViewer, ReadsNothingFromOutsideOfItsFolder) {
+TEST_F(HelpViewer, Nothing_is_read_from_outside_of_its_folder) {
     QImage picture(40, 40, QImage::Format_RGB32);
     picture.fill(Qt::red);
     const QString outside = system.paths.Program_Folder() + u"/red.png"_s;
@@ -172,7 +161,7 @@ TEST_F(HelpViewer, ReadsNothingFromOutsideOfItsFolder) {
     EXPECT_EQ(system.shell.calls[0].target, u"https://example.org/x?y=1"_s);
 }
 
-TEST_F(HelpViewer, EveryShippedPageCanBeReachedAndLeadsOnlyToOthers) {
+TEST_F(HelpViewer, Every_shipped_page_can_be_reached_and_leads_only_to_others) {
     static const QRegularExpression target(u"(?:href|src)=\"([^\"]*)\""_s);
     for (const QString& page :
          {help_page::Contents, help_page::Toolbar, help_page::Links, help_page::Reminders,

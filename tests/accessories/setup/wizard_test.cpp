@@ -1,18 +1,19 @@
 // The setup wizard and the toolbar that it holds.
-#include "accessories/help/fake_toolbar.h"
-#include "accessories/setup/find_controls.h"
 #include "accessories/setup/frm_wizard.h"
 #include "accessories/setup/run_key.h"
 #include "accessories/setup/setup.h"
+#include "controls/chk_box.h"
 #include "controls/program_end.h"
 #include "controls/timers.h"
 #include "controls/unload_queue.h"
+#include "controls/wb_button.h"
 #include "core/date_text.h"
 #include "settings/global_settings.h"
 #include "support/fake_system.h"
+#include "support/fake_toolbar.h"
+#include "support/form_driver.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 
 using namespace Qt::StringLiterals;
@@ -43,9 +44,9 @@ protected:
     FakeToolbar toolbar;
 };
 
-TEST_F(SetupWizard, StoresAllPagesAtTheEndOnly) {
+TEST_F(SetupWizard, All_pages_are_stored_at_the_end_only) {
     for (int page = 1; page < 6; ++page)
-        Press(u"Next >"_s);
+        Click_On<wbButton>(u"Next >"_s);
     EXPECT_TRUE(Find<QLabel>(u"6- Save new settings"_s)->font().bold());
     Find<ChkBox>(u"Load Tockly on startup"_s)->Toggle();
     Find<ChkBox>(u"Enable AutoHide"_s)->Toggle();
@@ -57,9 +58,9 @@ TEST_F(SetupWizard, StoresAllPagesAtTheEndOnly) {
         u"Invalid Date Format: dd/mm\r\n\r\nThe default system format will be used."_s);
     system.dialogs.whileOpen = [](const auto&) {
         EXPECT_EQ(Global_Autohide_WaitTime, 10000) << "all is stored before the box";
-        Press(u"Finish"_s); // a second one changes nothing
+        Click_On<wbButton>(u"Finish"_s); // a second one changes nothing
     };
-    Press(u"Finish"_s);
+    Click_On<wbButton>(u"Finish"_s);
     EXPECT_EQ(Window(), nullptr);
     EXPECT_EQ(Global_DateFormat, u"dd/mm/yyyy"_s);
     EXPECT_FALSE(Global_Autohide_Enabled);
@@ -69,7 +70,7 @@ TEST_F(SetupWizard, StoresAllPagesAtTheEndOnly) {
     EXPECT_TRUE(toolbar.guard.isEmpty());
 }
 
-TEST_F(SetupWizard, MovesTheToolbarAtOnceAndPutsItBackWhenItIsClosed) {
+TEST_F(SetupWizard, It_moves_the_toolbar_at_once_and_puts_it_back_when_it_is_closed) {
     Window()->close();
     toolbar.bounds = {400, 200, 733, 220};
     Show_SetupWizard();
@@ -88,7 +89,7 @@ TEST_F(SetupWizard, MovesTheToolbarAtOnceAndPutsItBackWhenItIsClosed) {
     EXPECT_EQ(Global_Autohide_SelectedHideMode, 2);
 }
 
-TEST_F(SetupWizard, TheHideTestLiftsTheGuardForItsTimeOnly) {
+TEST_F(SetupWizard, The_hide_test_lifts_the_guard_for_its_time_only) {
     const auto isOver = [this] {
         EXPECT_EQ(toolbar.guard.isEmpty(), !Find<wbButton>(u"Next >"_s)->isEnabled());
         return toolbar.guard == Guard && Find<wbButton>(u"Test"_s)->isEnabled();
@@ -113,7 +114,7 @@ TEST_F(SetupWizard, TheHideTestLiftsTheGuardForItsTimeOnly) {
     EXPECT_TRUE(isOver()) << "somebody who brings the toolbar back has seen enough";
 }
 
-TEST_F(SetupWizard, MayBeClosedOrEndedInTheMiddleOfTheTest) {
+TEST_F(SetupWizard, It_may_be_closed_or_ended_in_the_middle_of_the_test) {
     for (const bool isEnd : {false, true}) {
         Show_SetupWizard();
         toolbar.Move_To(10, 20);
@@ -129,7 +130,7 @@ TEST_F(SetupWizard, MayBeClosedOrEndedInTheMiddleOfTheTest) {
     }
 }
 
-TEST_F(SetupWizard, ComesByItselfAtTheFirstStartOnly) {
+TEST_F(SetupWizard, It_comes_by_itself_at_the_first_start_only) {
     for (const int firstTime : {0, 1}) {
         Window()->close();
         Unload_PendingForms();

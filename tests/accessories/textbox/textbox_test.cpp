@@ -1,10 +1,7 @@
 #include "accessories/textbox/frm_textbox.h"
 #include "accessories/textbox/textbox_rules.h"
-#include "controls/program_end.h"
 #include "support/fake_system.h"
-
-#include <QApplication>
-#include <QtTest/QTest>
+#include "support/form_driver.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,12 +17,9 @@ protected:
     ~Textbox() override { Unload_Textbox(); }
     void Open() {
         Toggle_Textbox();
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmTextbox*>(window))
-                form = found;
+        form = Open_Window<frmTextbox>();
         text = form->findChild<TextboxText*>();
-        form->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+        Give_Focus(form);
     }
     bool Has_ScrollBar() const { return text->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn; }
 
@@ -36,7 +30,6 @@ protected:
 
 TEST_F(Textbox, Its_words_are_selected_at_the_first_focus_only_and_its_text_stays) {
     Open();
-    EXPECT_EQ(form->size(), QSize(250, 97));
     QTest::mouseClick(text->viewport(), Qt::LeftButton);
     EXPECT_EQ(text->textCursor().selectedText().size(), 72);
     QTest::keyClicks(text, u"milk"_s);

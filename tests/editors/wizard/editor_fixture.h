@@ -3,7 +3,6 @@
 #pragma once
 
 #include "controls/program_end.h"
-#include "controls/toolbar.h"
 #include "controls/unload_queue.h"
 #include "controls/wb_button.h"
 #include "core/categories.h"
@@ -11,6 +10,7 @@
 #include "core/record_stream.h"
 #include "core/reminder_store.h"
 #include "support/fake_system.h"
+#include "support/fake_toolbar.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -18,21 +18,6 @@
 #include <QPlainTextEdit>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
-
-struct GuardedToolbar : Toolbar {
-    QString guard;
-    int shown = 0;
-
-    void AutoHide_ShowProc(bool /*skipFade*/) override { ++shown; }
-    void Guard_Hiding(const QString& reason) override { guard = reason; }
-    void Lift_HideGuard() override { guard.clear(); }
-    ToolbarRect Bounds() const override { return {}; }
-    void Move_To(int /*left*/, int /*top*/) override {}
-    bool Toolbar_Visible() const override { return true; }
-    bool IsHiding() const override { return false; }
-    void AutoHide_HideProc(HideMode /*mode*/, bool /*forceHide*/) override {}
-    HideMode Get_Best_Auto_HideMode(bool /*forceBest*/) const override { return HideMode::Top; }
-};
 
 constexpr Day Monday = 9558; // 26 years of 365 days, 7 leap days before, 59 days, the 2nd
 
@@ -46,13 +31,11 @@ protected:
         Init_Categories();
         Global_Categories[0] = {QStringLiteral("Work"), QStringLiteral("Write")};
         Global_DateFormat = QStringLiteral("dd/mm/yyyy");
-        Global_Toolbar = &toolbar;
     }
     ~EditorTest() override {
         Set_Program_Ending(false);
         Unload_PendingForms();
         Global_DateFormat = QStringLiteral("mm/dd/yyyy");
-        Global_Toolbar = nullptr;
     }
     template <class Window>
     static Window* Open_Window() {
@@ -100,6 +83,6 @@ protected:
     }
 
     FakeSystem system;
-    GuardedToolbar toolbar;
+    FakeToolbar toolbar;
     QWidget* window = nullptr;
 };

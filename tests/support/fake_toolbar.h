@@ -13,7 +13,8 @@ public:
     ToolbarRect bounds{400, 0, 733, 20};
     QString guard;
     bool visible = true;
-    QStringList steps; // what was asked, in order
+    int shown = 0;     // how often it was asked to show itself
+    QStringList steps; // hides and shows that changed something, in order
 
     ToolbarRect Bounds() const override { return bounds; }
     void Move_To(int left, int top) override {
@@ -28,6 +29,7 @@ public:
         visible = false;
     }
     void AutoHide_ShowProc(bool /*skipFade*/) override {
+        ++shown;
         if (!visible)
             steps.append(QStringLiteral("show"));
         visible = true;
