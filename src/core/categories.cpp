@@ -4,12 +4,15 @@
 #include "platform/files.h"
 #include "platform/record_text.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
 
 std::vector<CategoryEntry> Global_Categories;
+const QString NoCategoryText = u"--"_s;
 
 namespace {
 
@@ -59,6 +62,15 @@ void Read_Lines(std::string_view bytes) {
         Read_Line(bytes.substr(0, end), count);
         bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
     }
+}
+
+// Each word begins with a capital.
+QString Proper_Case(const QString& text) {
+    QString proper = text;
+    for (qsizetype at = 0; at < proper.size(); ++at)
+        if (at == 0 || proper[at - 1] == u' ')
+            proper[at] = proper[at].toUpper();
+    return proper;
 }
 
 } // namespace
@@ -116,14 +128,30 @@ int Find_Category(const QString& name) {
                                             : static_cast<int>(found - Global_Categories.begin());
 }
 
+QStringList Category_Names() {
+    QStringList names;
+    for (std::size_t index = 0; index < Count_Categories(); ++index)
+        names << Global_Categories[index].Name;
+    return names;
+}
+
+QString Icon_OfCategory(const QString& name) {
+    const int index = name.isEmpty() ? -1 : Find_Category(name);
+    return index == -1 ? QString() : Global_Categories[static_cast<std::size_t>(index)].Icon;
+}
+
 void Sync_CategoriesFromReminders() {
     std::size_t count = Count_Categories();
+    QSet<QString> known;
     for (const ReminderSlot& slot : Global_Reminders) {
         if (!slot.Used)
             continue;
         const ReminderClass& reminder = slot.Reminder.Peek();
-        if (!reminder.rs_Category.isEmpty() && Find_Category(reminder.rs_Category) == -1)
+        if (reminder.rs_Category.isEmpty() || known.contains(reminder.rs_Category))
+            continue;
+        if (Find_Category(reminder.rs_Category) == -1)
             Add_Category(count++, {reminder.rs_Category, reminder.rs_Icon});
+        known.insert(reminder.rs_Category);
     }
 }
 
@@ -140,6 +168,9 @@ void Delete_Category(const QString& name) {
     Global_Categories.emplace_back();
 }
 
-QString Clean_CategoryText(const QString& text) {
-    return text.simplified();
+QString Category_FromText(const QString& text) {
+    const QString clean = text.simplified();
+    if (clean == NoCategoryText)
+        return {};
+    return clean == clean.toLower() ? Proper_Case(clean) : clean;
 }

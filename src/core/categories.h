@@ -4,6 +4,7 @@
 #include "core/table_file.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <string>
 #include <vector>
@@ -26,9 +27,17 @@ std::string Encode_Categories();
 TableFile& Categories_File();
 // Index of the name without regard to case, or -1. The empty name finds the first free entry.
 int Find_Category(const QString& name);
-// Adds what reminders use and the table lacks.
+// The names in their order.
+QStringList Category_Names();
+// The icon of the category's entry; empty when it has none.
+QString Icon_OfCategory(const QString& name);
+// Adds what reminders use and the table lacks; quick when there is nothing to add.
 void Sync_CategoriesFromReminders();
 // Removes a known category from the table and from all reminders.
 void Delete_Category(const QString& name);
-// Trims, and reduces every run of blanks to one.
-QString Clean_CategoryText(const QString& text);
+
+// The category box's word for none.
+extern const QString NoCategoryText;
+// What a text from a category box becomes in the record: blanks are cleaned away, and where all
+// letters are small each word begins with a capital.
+QString Category_FromText(const QString& text);

@@ -25,6 +25,14 @@ void ReminderClass::SetDefaultValues() {
         0, {false, FunctionType::OpenPage, 0, u"https://mail.example.com/"_s, u"Check E-mail"_s});
 }
 
+void ReminderClass::Set_ExactDate(const CalendarDate& date, Day day) {
+    rs_DateType_Used = DateType::ExactDate;
+    rs_SRDay = static_cast<std::uint8_t>(date.day);
+    rs_SRMonth = static_cast<std::uint8_t>(date.month);
+    rs_SRYear = static_cast<std::int16_t>(date.year);
+    rs_SRLongday = day;
+}
+
 void ReminderClass::SetFuncion(int index, const FunctionEntry& entry) {
     if (index < 0 || index >= FunctionCount)
         throw std::out_of_range("function");

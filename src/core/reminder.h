@@ -158,6 +158,8 @@ public:
     // The marks of the day stay: a list that is built again does not fire again.
     void ClearAllHourSetup();
 
+    // day: the Day of the date; with a year of 0 it comes every year, and day is that of this one.
+    void Set_ExactDate(const CalendarDate& date, Day day);
     void Set_Rs_Rdays(const std::array<std::uint8_t, 8>& days) { rs_wDays = days; }
     std::array<std::uint8_t, 8> Get_Rs_Rdays() const { return rs_wDays; }
 

@@ -1,5 +1,6 @@
 #include "core/reminder_store.h"
 
+#include "core/reminder_ref.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 
@@ -61,10 +62,7 @@ void Date_Example(ReminderClass& example, Day today) {
         example.rs_SRLongday = DateToDay(example.rs_SRDay, example.rs_SRMonth, date.year);
         return;
     }
-    example.rs_SRLongday = today;
-    example.rs_SRDay = static_cast<std::uint8_t>(date.day);
-    example.rs_SRMonth = static_cast<std::uint8_t>(date.month);
-    example.rs_SRYear = static_cast<std::int16_t>(date.year);
+    example.Set_ExactDate(date, today);
 }
 
 // An example for an exact date that names none is for the day of the first start.
@@ -246,4 +244,11 @@ std::int32_t Take_FreeReminderSlot() {
     if (free == Global_Reminders.end())
         Global_Reminders.resize(Global_Reminders.size() + SlotStep);
     return index;
+}
+
+ReminderRef Add_Reminder(std::unique_ptr<ReminderClass> reminder, NewReminder state) {
+    const std::int32_t index = Take_FreeReminderSlot();
+    Global_Reminders[static_cast<std::size_t>(index)] = {true, state == NewReminder::Pending,
+                                                         std::move(reminder)};
+    return ReminderRef::Of_Slot(index);
 }

@@ -14,6 +14,8 @@
 #include <string>
 #include <vector>
 
+class ReminderRef;
+
 // A slot's own reminder, used like a unique_ptr. It remembers until when the check of every second
 // has nothing to ask it; whoever reaches it otherwise than by Peek may change it, and makes it
 // asked again.
@@ -113,3 +115,7 @@ void Settle_IdPair(std::int32_t index);
 void Delete_ReminderSlot(std::int32_t index);
 // A free slot; the table grows by 20 when there is none.
 std::int32_t Take_FreeReminderSlot();
+// Puts a reminder into a free slot.
+enum class NewReminder { Ready, Pending };
+ReminderRef Add_Reminder(std::unique_ptr<ReminderClass> reminder,
+                         NewReminder state = NewReminder::Ready);

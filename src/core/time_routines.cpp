@@ -141,10 +141,9 @@ CalendarDate DayToDate(Day day) {
     return date;
 }
 
-Day NextWeekdayDay(bool nextWeek, std::int32_t weekday) {
-    const Moment now = Read_Moment();
-    const std::int32_t present = now.Weekday + 1;
-    if (!nextWeek && present > weekday)
+Day NextWeekdayDay(const Moment& now, Day from, WhichWeek week, std::int32_t weekday) {
+    const std::int32_t present = ((now.Weekday + from - now.Today) % 7 + 7) % 7;
+    if (week == WhichWeek::This && present > weekday)
         return NoDay;
-    return now.Today + weekday + (nextWeek ? 7 : 0) - present;
+    return from + weekday - present + (week == WhichWeek::Next ? 7 : 0);
 }

@@ -82,5 +82,7 @@ struct CalendarDate {
 // The way back from DateToDay, in the same calendar; any Day has a date.
 CalendarDate DayToDate(Day day);
 
-// weekday 1 = Monday .. 7 = Sunday, of this or the next week; -1 when it has passed this week.
-Day NextWeekdayDay(bool nextWeek, std::int32_t weekday);
+enum class WhichWeek { This, Next };
+// weekday 0 = Monday .. 6 = Sunday, of the week of a day or the one after; -1 when it lies before
+// that day.
+Day NextWeekdayDay(const Moment& now, Day from, WhichWeek week, std::int32_t weekday);

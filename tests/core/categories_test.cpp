@@ -100,5 +100,14 @@ TEST_F(Categories, ADeletedCategoryLeavesTheTableAndTheReminders) {
     EXPECT_EQ(Global_Categories.size(), size);
     Delete_Category(u"unknown"_s);
     EXPECT_EQ(Find_Category(u"Misc"_s), 6);
-    EXPECT_EQ(Clean_CategoryText(u"  my   own\tthings "_s), u"my own things"_s);
+}
+
+TEST_F(Categories, WhatIsTypedIntoACategoryBoxBecomesAName) {
+    const QString typed[][2] = {{u"  my   own\twork "_s, u"My Own Work"_s},
+                                {u"iPhone calls"_s, u"iPhone calls"_s},
+                                {u" -- "_s, QString()},
+                                {u"   "_s, QString()},
+                                {u"7 dwarfs"_s, u"7 Dwarfs"_s}};
+    for (const auto& row : typed)
+        EXPECT_EQ(Category_FromText(row[0]), row[1]);
 }

@@ -76,10 +76,12 @@ TEST_F(TimeRoutines, TheTimeOfDayDropsTheSecondsOnlyFromTheMinute) {
 
 TEST_F(TimeRoutines, AWeekdayOfThisWeekIsGoneWhenItHasPassed) {
     clock.Set(2026, 3, 5); // a Thursday
-    const Day today = Get_TodayDay();
-    EXPECT_EQ(NextWeekdayDay(false, 3), -1);
-    EXPECT_EQ(NextWeekdayDay(false, 4), today);
-    EXPECT_EQ(NextWeekdayDay(false, 7), today + 3);
-    EXPECT_EQ(NextWeekdayDay(true, 1), today + 4);
-    EXPECT_EQ(NextWeekdayDay(true, 7), today + 10);
+    const Moment now = Read_Moment();
+    using enum WhichWeek;
+    EXPECT_EQ(NextWeekdayDay(now, now.Today, This, 2), -1);
+    EXPECT_EQ(NextWeekdayDay(now, now.Today, This, 3), now.Today);
+    EXPECT_EQ(NextWeekdayDay(now, now.Today - 1, This, 2), now.Today - 1);
+    EXPECT_EQ(NextWeekdayDay(now, now.Today, This, 6), now.Today + 3);
+    EXPECT_EQ(NextWeekdayDay(now, now.Today, Next, 0), now.Today + 4);
+    EXPECT_EQ(NextWeekdayDay(now, now.Today - 4, Next, 6), now.Today + 3);
 }

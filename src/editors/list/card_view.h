@@ -4,7 +4,7 @@
 
 #include "controls/chk_box.h"
 #include "controls/text_fields.h"
-#include "editors/list/reminder_ref.h"
+#include "core/reminder_ref.h"
 
 #include <QPixmap>
 

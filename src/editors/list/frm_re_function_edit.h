@@ -2,8 +2,8 @@
 #pragma once
 
 #include "controls/form.h"
+#include "core/reminder_ref.h"
 #include "editors/list/function_rules.h"
-#include "editors/list/reminder_ref.h"
 
 #include <array>
 

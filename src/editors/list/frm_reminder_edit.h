@@ -5,9 +5,9 @@
 #pragma once
 
 #include "controls/form.h"
+#include "core/reminder_ref.h"
 #include "editors/list/message_page.h"
 #include "editors/list/refused_save.h"
-#include "editors/list/reminder_ref.h"
 #include "editors/pages/edit_host.h"
 
 #include <QPointer>
@@ -99,7 +99,7 @@ private:
     // Selects it if it is not; false: the selection stays with another, or none.
     bool Is_SelectedNow(const ReminderRef& target);
     // A new card comes into view; the frame goes to it only where nothing is selected.
-    void Show_NewCard(std::int32_t slot);
+    void Show_NewCard(const ReminderRef& added);
     void Drop_Selection();
     void Hide_Popups();
     void Hide_All_Pages();

@@ -19,9 +19,9 @@ const QString nothingSelected = u"Click on a reminder in the list first."_s;
 // The new reminder is not selected: the pages stay with the one that is.
 void frmReminderEdit::New_Click() {
     Save_Selected_Icon();
-    const std::int32_t slot = Add_New_Reminder(Category_OfNew(filter));
+    const ReminderRef added = Add_New_Reminder(Category_OfNew(filter));
     UpdateReminderView();
-    Show_NewCard(slot);
+    Show_NewCard(added);
 }
 
 void frmReminderEdit::Delete_Click() {
@@ -68,10 +68,9 @@ void frmReminderEdit::Paste_Click() {
         break;
     }
     pasted->rs_Category = Category_OfPasted(filter);
-    const std::int32_t slot = Take_FreeReminderSlot();
-    Global_Reminders[static_cast<std::size_t>(slot)] = {true, false, std::move(pasted)};
+    const ReminderRef added = Add_Reminder(std::move(pasted));
     UpdateReminderView();
-    Show_NewCard(slot);
+    Show_NewCard(added);
 }
 
 void frmReminderEdit::Test_Click() {

@@ -10,22 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QStringList Category_Names() {
-    QStringList names;
-    for (const CategoryEntry& entry : Global_Categories) {
-        if (entry.Name.isEmpty())
-            break;
-        names << entry.Name;
-    }
-    return names;
-}
-
-} // namespace
-
 void frmReminderEdit::Update_Category_Combos(FilterText text) {
-    Sync_Categories();
+    Sync_CategoriesFromReminders();
     const QStringList names = Category_Names();
     if (names != shownNames || Combo2->count() == 0) {
         shownNames = names;

@@ -85,8 +85,8 @@ bool frmReminderEdit::Is_SelectedNow(const ReminderRef& target) {
     return selection == wanted && Selected_Reminder() != nullptr && !Program_Is_Ending();
 }
 
-void frmReminderEdit::Show_NewCard(std::int32_t slot) {
-    const int row = Cards->Row_Of(ReminderRef::Of_Slot(slot));
+void frmReminderEdit::Show_NewCard(const ReminderRef& added) {
+    const int row = Cards->Row_Of(added);
     if (selection.Is_Set())
         Cards->Bring_IntoView(row);
     else

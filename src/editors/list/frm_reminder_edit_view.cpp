@@ -1,4 +1,5 @@
 // The road of a record into the pages and back.
+#include "core/categories.h"
 #include "editors/list/card_list.h"
 #include "editors/list/frm_re_function_edit.h"
 #include "editors/list/frm_reminder_edit.h"
@@ -64,7 +65,7 @@ bool frmReminderEdit::Save_View(CategoryOnSave category, ShowErrors show) {
     if (category == CategoryOnSave::Take)
         Save_Category(*reminder);
     reminder->rs_Icon = Picture10->IconSelIMG->Selected_Name().trimmed();
-    Sync_Categories();
+    Sync_CategoriesFromReminders();
     // The list goes to the record a second time, and this is the result that counts. That is meant.
     const bool saved = Picture3->Save_HourSetup_List(show);
     if (saved)

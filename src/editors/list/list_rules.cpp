@@ -1,9 +1,6 @@
 #include "editors/list/list_rules.h"
 
-#include "core/categories.h"
 #include "core/date_text.h"
-
-#include <QSet>
 
 #include <algorithm>
 
@@ -11,7 +8,6 @@ using namespace Qt::StringLiterals;
 
 const QString FilterAll = u"-- (All)"_s;
 const QString FilterNone = u"-- (No category)"_s;
-const QString NoCategoryText = u"--"_s;
 
 namespace {
 
@@ -23,32 +19,6 @@ const ReminderClass& Reminder_At(std::int32_t slot) {
 
 bool Same_Text(const QString& left, const QString& right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
-}
-
-// Each word begins with a capital.
-QString Proper_Case(const QString& text) {
-    QString proper = text;
-    for (qsizetype at = 0; at < proper.size(); ++at)
-        if (at == 0 || proper[at - 1] == u' ')
-            proper[at] = proper[at].toUpper();
-    return proper;
-}
-
-bool Knows_AllCategories() {
-    QSet<QString> known;
-    for (const CategoryEntry& entry : Global_Categories)
-        known.insert(entry.Name);
-    for (const ReminderSlot& slot : Global_Reminders) {
-        if (!slot.Used || slot.Reminder.Peek().rs_Category.isEmpty())
-            continue;
-        const QString& category = slot.Reminder.Peek().rs_Category;
-        if (known.contains(category))
-            continue;
-        if (Find_Category(category) == -1)
-            return false;
-        known.insert(category);
-    }
-    return true;
 }
 
 } // namespace
@@ -113,13 +83,6 @@ QString Category_OfPasted(const QString& filter) {
     return Same_Text(filter, FilterNone) || Same_Text(filter, u"-- all"_s) ? QString() : filter;
 }
 
-QString Category_FromText(const QString& text) {
-    const QString clean = Clean_CategoryText(text);
-    if (clean == NoCategoryText)
-        return {};
-    return clean == clean.toLower() ? Proper_Case(clean) : clean;
-}
-
 bool Is_SampleText(const QString& text) {
     return text.isEmpty() || text == "..."_L1 || Same_Text(text, u"insert text here"_s);
 }
@@ -139,19 +102,12 @@ QString Text_ForRecord(const QString& boxText, const QString& recordText) {
     return text.replace("\n"_L1, "\r\n"_L1);
 }
 
-void Sync_Categories() {
-    if (!Knows_AllCategories())
-        Sync_CategoriesFromReminders();
-}
-
-std::int32_t Add_New_Reminder(const QString& category) {
+ReminderRef Add_New_Reminder(const QString& category) {
     auto reminder = std::make_unique<ReminderClass>();
     reminder->SetDefaultValues();
     reminder->rs_ID = Get_NewReminderID(reminder->rs_ID2);
     reminder->rs_Category = category;
-    const std::int32_t index = Take_FreeReminderSlot();
-    Global_Reminders[static_cast<std::size_t>(index)] = {true, false, std::move(reminder)};
-    return index;
+    return Add_Reminder(std::move(reminder));
 }
 
 std::vector<std::int32_t> Slots_OfCategory(const QString& name) {

@@ -2,17 +2,16 @@
 // becomes of a category's text.
 #pragma once
 
-#include "core/reminder_store.h"
+#include "core/reminder_ref.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <vector>
 
-// The first two items of the filter box, and the category box's word for none.
+// The first two items of the filter box.
 extern const QString FilterAll;
 extern const QString FilterNone;
-extern const QString NoCategoryText;
 
 // Slots of the reminders that the filter shows, in the order of the table. filter: the text of the
 // filter box.
@@ -32,8 +31,6 @@ QString Delete_Question(const ReminderClass& reminder, const Moment& now);
 // The category that a reminder made, or pasted, under a filter gets.
 QString Category_OfNew(const QString& filter);
 QString Category_OfPasted(const QString& filter);
-// What the category box's text becomes in the record.
-QString Category_FromText(const QString& text);
 
 // A text that only stands for one still to be typed.
 bool Is_SampleText(const QString& text);
@@ -42,10 +39,8 @@ bool Is_SampleText(const QString& text);
 QString Text_ForBox(const QString& recordText);
 QString Text_ForRecord(const QString& boxText, const QString& recordText);
 
-// Adds the categories that reminders use and the table lacks; quick when there are none.
-void Sync_Categories();
-// A used reminder with a new number and default values; the slot.
-std::int32_t Add_New_Reminder(const QString& category);
+// A used reminder with a new number and default values.
+ReminderRef Add_New_Reminder(const QString& category);
 
 // Slots of the used reminders of a category. name without regard to case.
 std::vector<std::int32_t> Slots_OfCategory(const QString& name);

@@ -2,7 +2,7 @@
 // succeeds; the file gets the record as it stood before.
 #pragma once
 
-#include "editors/list/reminder_ref.h"
+#include "core/reminder_ref.h"
 
 #include <optional>
 

@@ -95,23 +95,12 @@ std::optional<DateFault> Save_DayOfMonth(const DatePageState& state, const Store
     return std::nullopt;
 }
 
-void Set_ExactDate(ReminderClass& reminder, Day day, const CalendarDate& date) {
-    reminder.rs_SRDay = static_cast<std::uint8_t>(date.day);
-    reminder.rs_SRMonth = static_cast<std::uint8_t>(date.month);
-    reminder.rs_SRYear = static_cast<std::int16_t>(date.year);
-    reminder.rs_SRLongday = day;
-    reminder.rs_DateType_Used = DateType::ExactDate;
-}
-
 // A yearly date's Day is that of the present year, where there is one.
 void Save_StoredDate(const StoredDate& stored, ReminderClass& reminder, const Moment& now) {
-    reminder.rs_SRDay = stored.SRDay;
-    reminder.rs_SRMonth = stored.SRMonth;
-    reminder.rs_SRYear = stored.SRYear;
     const Day thisYear =
         stored.SRYear == 0 ? DateToDay(stored.SRDay, stored.SRMonth, now.Year) : NoDay;
-    reminder.rs_SRLongday = thisYear == NoDay ? stored.SRLongday : thisYear;
-    reminder.rs_DateType_Used = DateType::ExactDate;
+    reminder.Set_ExactDate({stored.SRDay, stored.SRMonth, stored.SRYear},
+                           thisYear == NoDay ? stored.SRLongday : thisYear);
 }
 
 // A text without a year is the same date every year, whether "Every year" is ticked or not.
@@ -128,7 +117,7 @@ std::optional<DateFault> Save_TypedDate(const DatePageState& state, const Stored
     const Day day = read ? DateToDay(date.day, date.month, year) : NoDay;
     if (day == NoDay)
         return DateFault{u"Invalid (Days setup) Exact date: \r\n"_s + text, ErrorMark::ExactField};
-    Set_ExactDate(reminder, day, date.year == 0 ? date : DayToDate(day));
+    reminder.Set_ExactDate(date.year == 0 ? date : DayToDate(day), day);
     return std::nullopt;
 }
 
@@ -140,7 +129,7 @@ std::optional<DateFault> Save_ExactDate(const DatePageState& state, const Stored
     if (day == NoDay)
         return DateFault{u"Selected (Days setup->Exact date) day is invalid"_s,
                          ErrorMark::ExactWeekdays};
-    Set_ExactDate(reminder, day, DayToDate(day));
+    reminder.Set_ExactDate(DayToDate(day), day);
     return std::nullopt;
 }
 

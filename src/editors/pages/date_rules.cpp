@@ -16,12 +16,8 @@ Day Ticked_On(const DatePageState& state, DateField field, const Moment& now) {
     return state.TickedOn[field] == 0 ? now.Today : state.TickedOn[field];
 }
 
-// weekday: 0 = Monday, of the week of "ticked" or the one after.
-Day Weekday_Day(const Moment& now, Day ticked, bool nextWeek, int weekday) {
-    const int present = ((now.Weekday + ticked - now.Today) % 7 + 7) % 7;
-    if (!nextWeek && present > weekday)
-        return NoDay;
-    return ticked + weekday + (nextWeek ? 7 : 0) - present;
+WhichWeek Week_Of(const DatePageState& state, WeekOption next) {
+    return state.Option1[next] ? WhichWeek::Next : WhichWeek::This;
 }
 
 // Radio behaviour by hand: everything in the range but one goes.
@@ -153,14 +149,14 @@ Day Exact_Day(const DatePageState& state, int box, const Moment& now) {
     const Day ticked = Ticked_On(state, ExactField, now);
     if (box < ExactMonday)
         return box == Tomorrow ? ticked + 1 : ticked;
-    return Weekday_Day(now, ticked, state.Option1[ExactNext], box - ExactMonday);
+    return NextWeekdayDay(now, ticked, Week_Of(state, ExactNext), box - ExactMonday);
 }
 
 Day Start_Day(const DatePageState& state, int box, const Moment& now) {
     const Day ticked = Ticked_On(state, StartField, now);
     if (box == StartTomorrow)
         return ticked + 1;
-    return Weekday_Day(now, ticked, state.Option1[StartNext], box - StartMonday);
+    return NextWeekdayDay(now, ticked, Week_Of(state, StartNext), box - StartMonday);
 }
 
 CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now) {

@@ -122,13 +122,9 @@ ComboBox* Add_CategoryBox(QWidget* parent, const QRect& place) {
     box->setInsertPolicy(QComboBox::NoInsert);
     Name_Combo(box, u"Category"_s);
     Limit_ToStoredText(box->lineEdit());
-    box->addItem(u"--"_s);
-    for (const CategoryEntry& entry : Global_Categories) {
-        if (entry.Name.isEmpty())
-            break;
-        box->addItem(entry.Name);
-    }
-    box->setEditText(u"--"_s);
+    box->addItem(NoCategoryText);
+    box->addItems(Category_Names());
+    box->setEditText(NoCategoryText);
     return box;
 }
 

@@ -3,8 +3,6 @@
 #include "core/categories.h"
 #include "core/date_text.h"
 #include "core/reminder_store.h"
-#include "editors/list/list_rules.h"
-#include "editors/wizard/wizard_rules.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +19,6 @@ Day Chosen_Day(const QuickAddState& state, const Moment& now) {
         break;
     }
     return ParseUserDateToDay(state.Date, {});
-}
-
-void Apply_Day(ReminderClass& reminder, Day day) {
-    const CalendarDate date = DayToDate(day);
-    reminder.rs_SRDay = static_cast<std::uint8_t>(date.day);
-    reminder.rs_SRMonth = static_cast<std::uint8_t>(date.month);
-    reminder.rs_SRYear = static_cast<std::int16_t>(date.year);
-    reminder.rs_SRLongday = day;
-    reminder.rs_DateType_Used = DateType::ExactDate;
 }
 
 // The first setup stays, and that is meant: after a test a changed time stands beside the tested
@@ -78,9 +67,7 @@ ReminderRef Make_PendingReminder(const Moment& now) {
     reminder->rs_Title = QuickTitle;
     reminder->rs_Text = u"..."_s;
     reminder->rs_PlaySound = true;
-    const std::int32_t index = Take_FreeReminderSlot();
-    Global_Reminders[static_cast<std::size_t>(index)] = {true, true, std::move(reminder)};
-    return ReminderRef::Of_Slot(index);
+    return Add_Reminder(std::move(reminder), NewReminder::Pending);
 }
 
 void Accept_Pending(const ReminderRef& pending) {
@@ -96,7 +83,7 @@ void Drop_Pending(const ReminderRef& pending) {
 QString Apply_ToReminder(const QuickAddState& state, ReminderClass& reminder, BadValues bad,
                          const Moment& now) {
     if (const Day day = Chosen_Day(state, now); day != NoDay)
-        Apply_Day(reminder, day);
+        reminder.Set_ExactDate(DayToDate(day), day);
     else if (bad == BadValues::Report)
         return "Invalid date: \r\n"_L1 + state.Date;
     reminder.rs_Title = state.Title;

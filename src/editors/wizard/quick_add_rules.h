@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/reminder.h"
-#include "editors/list/reminder_ref.h"
+#include "core/reminder_ref.h"
 
 #include <QString>
 

@@ -2,8 +2,7 @@
 
 #include "core/categories.h"
 #include "core/date_text.h"
-#include "core/reminder_store.h"
-#include "editors/list/list_rules.h"
+#include "core/reminder_ref.h"
 #include "editors/wizard/wizard_text.h"
 
 #include <QStringList>
@@ -44,16 +43,10 @@ Check Take_Type(WizardState& state) {
 }
 
 Check Take_ExactDate(WizardState& state) {
-    ReminderClass& reminder = state.rObj;
-    reminder.rs_DateType_Used = DateType::ExactDate;
     const Day day = ParseUserDateToDay(state.Text1, {});
     if (day == NoDay)
         return Warning("Invalid date: "_L1 + state.Text1);
-    const CalendarDate date = DayToDate(day);
-    reminder.rs_SRLongday = day;
-    reminder.rs_SRDay = static_cast<std::uint8_t>(date.day);
-    reminder.rs_SRMonth = static_cast<std::uint8_t>(date.month);
-    reminder.rs_SRYear = static_cast<std::int16_t>(date.year);
+    state.rObj.Set_ExactDate(DayToDate(day), day);
     return {};
 }
 
@@ -77,18 +70,13 @@ Check Take_EveryXDays(WizardState& state) {
 }
 
 Check Take_Birthday(WizardState& state, const Moment& now) {
-    ReminderClass& reminder = state.rObj;
-    reminder.rs_DateType_Used = DateType::ExactDate;
     std::int32_t day = 0;
     std::int32_t month = 0;
     // 2000 has every day of a year.
     if (Parse_Birthday(state.Text3, day, month) != 0 || day == 0 ||
         DateToDay(day, month, 2000) == NoDay)
         return Warning("Invalid date: "_L1 + state.Text3);
-    reminder.rs_SRDay = static_cast<std::uint8_t>(day);
-    reminder.rs_SRMonth = static_cast<std::uint8_t>(month);
-    reminder.rs_SRYear = 0;
-    reminder.rs_SRLongday = DateToDay(day, month, now.Year);
+    state.rObj.Set_ExactDate({day, month, 0}, DateToDay(day, month, now.Year));
     return {};
 }
 
@@ -242,8 +230,7 @@ HourListView Rebuild_HourList(WizardState& state) {
 
 void Add_ToReminderTable(const WizardState& state) {
     // No identity of its own: the numbers stay 0 and 0, as for all reminders made here.
-    const auto index = static_cast<std::size_t>(Take_FreeReminderSlot());
-    Global_Reminders[index] = {true, false, std::make_unique<ReminderClass>(state.rObj)};
+    Add_Reminder(std::make_unique<ReminderClass>(state.rObj));
 }
 
 QString Title_FromMessage(const QString& message) {
@@ -253,9 +240,4 @@ QString Title_FromMessage(const QString& message) {
     // A character of two halves is not cut in the middle.
     const bool halved = line[LongestTitle - 1].isHighSurrogate();
     return line.left(LongestTitle - (halved ? 1 : 0)) + "..."_L1;
-}
-
-QString Icon_OfCategory(const QString& name) {
-    const int index = name.isEmpty() ? -1 : Find_Category(name);
-    return index == -1 ? QString() : Global_Categories[static_cast<std::size_t>(index)].Icon;
 }

@@ -86,5 +86,3 @@ void Add_ToReminderTable(const WizardState& state);
 
 // The title that a message gives: one line, at most 18 characters and "...".
 QString Title_FromMessage(const QString& message);
-// The icon of the category's entry; empty when it has none.
-QString Icon_OfCategory(const QString& name);

@@ -43,7 +43,7 @@ protected:
     }
     // Every day at 20:00.
     std::int32_t Add(const QString& title, const QString& category = {}) {
-        const std::int32_t slot = Add_New_Reminder(category);
+        const std::int32_t slot = Add_New_Reminder(category).Slot();
         Reminder(slot).rs_Title = title;
         return slot;
     }

@@ -1,4 +1,4 @@
-#include "editors/list/reminder_ref.h"
+#include "core/reminder_ref.h"
 
 namespace {
 
