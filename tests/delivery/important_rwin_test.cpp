@@ -53,24 +53,6 @@ protected:
     }
 };
 
-TEST_F(ReminderWindow, It_is_as_high_as_its_actions_and_its_buttons_stand_in_the_last_row) {
-    const std::pair<int, int> cases[] = {{0, 78}, {1, 78}, {2, 99}, {3, 120}, {4, 141}};
-    for (const auto& [actions, height] : cases) {
-        Unload_ReminderWindows();
-        Start_Afresh(9, 0, 0);
-        const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
-        Set_Actions(index, actions);
-        const frmImportantRWin* window = Show(index);
-        EXPECT_EQ(window->geometry(), QRect(678, 0, 253, height));
-        const std::vector<wbButton*> buttons = Buttons_Of(window);
-        ASSERT_EQ(buttons.size(), std::size_t(actions) + 2);
-        for (int row = 0; row < actions; ++row)
-            EXPECT_EQ(buttons[std::size_t(row)]->geometry(), QRect(4, 56 + 21 * row, 158, 17));
-        EXPECT_EQ(buttons.rbegin()[1]->geometry(), QRect(168, height - 22, 58, 17));
-        EXPECT_EQ(buttons.rbegin()[0]->geometry(), QRect(232, height - 22, 15, 17));
-    }
-}
-
 TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) {
     const QString longCaption = u"Read <b>what</b> the whole neighbourhood has written"_s;
     const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
@@ -99,17 +81,14 @@ TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
         {"one word of many lines", QString(300, u'W'), true},
         {"short after long", u"short"_s, false},
         {"a megabyte", QString(1000000, u'x'), true}};
-    for (const auto& row : cases)
-        Add_Typed(std::get<1>(row), ReminderType::NextToToolbar);
-    frmImportantRWin* window = Show(0);
-    for (std::int32_t index = 0; index < static_cast<std::int32_t>(std::size(cases)); ++index) {
+    const std::int32_t index = Add_Typed({}, ReminderType::NextToToolbar);
+    frmImportantRWin* window = Show(index);
+    for (const auto& [name, text, scrolls] : cases) {
+        Reminder(index).rs_Text = text;
         window->UpdateWindow(index); // one window shows them one after the other
-        const auto* text = window->findChild<QPlainTextEdit*>();
-        EXPECT_EQ(text->verticalScrollBar()->isVisible(), std::get<2>(cases[index]))
-            << std::get<0>(cases[index]);
-        EXPECT_EQ(text->toPlainText().size(),
-                  QString(std::get<1>(cases[index])).remove("\r\n"_L1).size() +
-                      std::get<1>(cases[index]).count("\r\n"_L1));
+        const auto* box = window->findChild<QPlainTextEdit*>();
+        EXPECT_EQ(box->verticalScrollBar()->isVisible(), scrolls) << name;
+        EXPECT_EQ(box->toPlainText().size(), text.size() - text.count("\r\n"_L1)) << name;
     }
 }
 
@@ -310,41 +289,6 @@ TEST_F(ReminderWindow, Its_menu_changes_the_reminder_and_goes_on_to_the_next) {
     }
     EXPECT_EQ(Global_RA_Last, 0);
     EXPECT_TRUE(window->isVisible());
-}
-
-TEST_F(ReminderWindow, Fifteen_at_once_stand_where_the_rule_puts_them) {
-    struct Case {
-        platform::Size screen;
-        ToolbarRect toolbar;
-        std::vector<QPoint> places;
-    };
-    // 253 x 78 each, in columns of 254; those that reach upward end with the toolbar.
-    const Case cases[] = {{{1024, 768}, {345, 0, 678, 20}, {{678, 0}, {91, 0}}},
-                          {{1024, 768}, {345, 748, 678, 768}, {{678, 690}, {91, 690}}},
-                          {{1024, 768}, {0, 0, 333, 20}, {{333, 0}, {587, 0}}},
-                          {{1024, 768}, {691, 0, 1024, 20}, {{437, 0}, {183, 0}}},
-                          {{1024, 768}, {345, 374, 678, 394}, {{678, 316}, {91, 316}}},
-                          {{800, 600}, {233, 0, 566, 20}, {{566, 0}}},
-                          {{800, 600}, {233, 580, 566, 600}, {{566, 522}}},
-                          {{800, 600}, {0, 0, 333, 20}, {{333, 0}}},
-                          {{800, 600}, {467, 0, 800, 20}, {{213, 0}}}};
-    for (const Case& row : cases) {
-        Unload_ReminderWindows();
-        Start_Afresh(9, 0, 0);
-        desktop.screen = row.screen;
-        toolbar.bounds = row.toolbar;
-        for (int number = 0; number < 15; ++number)
-            Deliver_Reminder(Add_Typed(QString::number(number), ReminderType::NextToToolbar));
-        std::vector<QPoint> places;
-        int waiting = 0;
-        for (std::size_t entry = 0; entry < row.places.size(); ++entry) {
-            ASSERT_NE(Near_Window(entry), nullptr);
-            places.push_back(Near_Window(entry)->pos());
-            waiting += Near_Window(entry)->PendingCount();
-        }
-        EXPECT_EQ(places, row.places);
-        EXPECT_EQ(waiting + int(places.size()), 15);
-    }
 }
 
 } // namespace
