@@ -80,12 +80,11 @@ TEST_F(CoolTabTest, Faces_have_the_colours_of_their_rows_and_the_selected_one_is
     strip.BorderColor3 = 0x00FF00;
     strip.Select(1);
     const QImage face = strip.grab().toImage();
-    EXPECT_EQ(face.pixelColor(53, 1), QColor(0, 0, 0));
-    EXPECT_EQ(face.pixelColor(53, 2), QColor(10, 0, 0));
-    EXPECT_EQ(face.pixelColor(53, 20), QColor(190, 0, 0));
-    EXPECT_EQ(face.pixelColor(3, 10), QColor(0xC0, 0xD0, 0xE0));
-    EXPECT_EQ(face.pixelColor(3, 20), QColor(0, 255, 0));
-    EXPECT_EQ(face.pixelColor(190, 20), QColor(0, 255, 0));
+    const std::tuple<int, int, QColor> pixels[] = {
+        {53, 1, {0, 0, 0}},          {53, 2, {10, 0, 0}},  {53, 20, {190, 0, 0}},
+        {3, 10, {0xC0, 0xD0, 0xE0}}, {3, 20, {0, 255, 0}}, {190, 20, {0, 255, 0}}};
+    for (const auto& [x, y, color] : pixels)
+        EXPECT_EQ(face.pixelColor(x, y), color) << x << ' ' << y;
 }
 
 TEST_F(CoolTabTest, A_caption_stays_lit_until_the_cursor_is_past_an_edge_of_its_tab) {

@@ -20,17 +20,6 @@ protected:
     Timers timers;
 };
 
-TEST_F(TimersTest, Only_the_checks_and_AutoHide_run_from_the_start) {
-    timers.Start_FirstTimers();
-    QStringList running;
-    for (int i = 0; i < TimerCount; ++i) {
-        if (timers.Is_Enabled(static_cast<TimerName>(i))) {
-            running << QString::fromLatin1(Global_TimerTable[static_cast<std::size_t>(i)].Name);
-        }
-    }
-    EXPECT_EQ(running.join(u' '), u"R_CheckDate_Timer Check_Ra_Reminders_Timer AutoHideTimer"_s);
-}
-
 TEST_F(TimersTest, A_timer_ticks_again_and_again_until_its_own_work_stops_it) {
     int ticks = 0;
     timers.On_Tick(TimerName::ResizeForm_Timer, [&] {
@@ -54,7 +43,6 @@ TEST_F(TimersTest, A_message_box_holds_the_work_back_and_the_next_tick_does_it) 
     dialogs.Expect_Message(u"text"_s);
     dialogs.Message(u"text"_s, platform::BoxStyle::Exclamation);
     EXPECT_EQ(checks, 0);
-    EXPECT_TRUE(timers.Is_Enabled(TimerName::R_CheckDate_Timer));
     timers.Tick(TimerName::R_CheckDate_Timer);
     EXPECT_EQ(checks, 1);
     // An input box lets them run.

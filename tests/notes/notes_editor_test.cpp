@@ -6,13 +6,12 @@
 #include "notes/frm_notes_editor.h"
 #include "notes/note_boxes.h"
 #include "notes_fixture.h"
+#include "support/form_driver.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QMenu>
 #include <QTimer>
-#include <QtTest/QTest>
 
 #include <random>
 
@@ -31,12 +30,8 @@ protected:
     }
     void Open() {
         Show_NotesEditor();
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmNotesEditor*>(window))
-                if (!found->Is_Unloading())
-                    form = found;
-        form->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+        form = Open_Window<frmNotesEditor>();
+        Give_Focus(form);
         column = form->findChild<CardColumn*>();
         list = form->findChild<CategoryList*>();
     }
@@ -51,12 +46,7 @@ protected:
     NoteTextBox* Text(int note) {
         return qobject_cast<NoteTextBox*>(column->Card_Of(note)->Field(1));
     }
-    void Click(const QString& name) {
-        for (wbButton* button : form->findChildren<wbButton*>())
-            if (button->accessibleName() == name)
-                return QTest::mouseClick(button, Qt::LeftButton);
-        FAIL() << name.toStdString();
-    }
+    void Click(const QString& name) { Click_On<wbButton>(name, form); }
     QString Status() {
         QString status;
         for (const QLabel* label : form->findChildren<QLabel*>())

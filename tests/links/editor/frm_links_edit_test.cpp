@@ -6,13 +6,11 @@
 #include "links/editor/links_list.h"
 #include "links/store/links_data.h"
 #include "support/fake_system.h"
+#include "support/form_driver.h"
 
-#include <QApplication>
-#include <QLineEdit>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QtTest/QTest>
 
 using namespace Qt::StringLiterals;
 using platform::Answer;
@@ -42,30 +40,13 @@ protected:
     }
     void Open() {
         Show_LinksEditor();
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<frmLinksEdit*>(window))
-                if (!found->Is_Unloading())
-                    form = found;
+        form = Open_Window<frmLinksEdit>();
         list = form->findChild<LinksList*>();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(form));
     }
-    void Click(const QString& name) {
-        for (wbButton* button : form->findChildren<wbButton*>())
-            if (button->accessibleName() == name)
-                return QTest::mouseClick(button, Qt::LeftButton);
-        FAIL() << name.toStdString();
-    }
-    QLineEdit* Field(const QString& name) {
-        for (auto* field : form->findChildren<QLineEdit*>())
-            if (field->accessibleName() == name)
-                return field;
-        ADD_FAILURE() << name.toStdString();
-        return nullptr;
-    }
-    void Type(const QString& name, const QString& text) {
-        Field(name)->selectAll();
-        QTest::keyClicks(Field(name), text);
-    }
+    void Click(const QString& name) { Click_On<wbButton>(name, form); }
+    QLineEdit* Field(const QString& name) { return Find<QLineEdit>(name, form); }
+    void Type(const QString& name, const QString& text) { Type_Into(Field(name), text); }
     QPoint Place(int row) { return list->visualRect(list->model()->index(row, 0)).center(); }
     void Choose(int row) { QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, Place(row)); }
     void Drop(const QStringList& paths) {
@@ -113,7 +94,7 @@ TEST_F(LinksEditor, The_properties_go_to_their_row_only_where_somebody_has_chang
     Type(u"Path"_s, u"-"_s);
     Choose(0);
     EXPECT_EQ(Row(2), (LinkRec{u"1-"_s, u"c"_s, u"two\nlines"_s, 7, 0}));
-    QTest::mouseClick(form->findChildren<QRadioButton*>().at(2), Qt::LeftButton, {}, QPoint(8, 10));
+    Click_On<QRadioButton>(u"Start size: Maximized"_s, form);
     Type(u"Description"_s, u"new"_s);
     QTest::keyClick(Field(u"Description"_s), Qt::Key_Return);
     EXPECT_EQ(Row(0), (LinkRec{u"0http://a"_s, u"a"_s, u"new"_s, 2, 0}));

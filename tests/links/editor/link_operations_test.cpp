@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <set>
 
@@ -29,27 +30,14 @@ QString Text_Of(const LinkRows& rows) {
     return text.join(u' ');
 }
 
-enum class Command { Up, Down, Left, Right, Delete, AddLink, AddCategory };
-
-bool Carry_Out(LinkEdit& edit, Command command) {
-    switch (command) {
-    case Command::Up:
-        return edit.Move(MoveDirection::Up);
-    case Command::Down:
-        return edit.Move(MoveDirection::Down);
-    case Command::Left:
-        return edit.Move_Left();
-    case Command::Right:
-        return edit.Move_Right();
-    case Command::Delete:
-        return edit.Delete();
-    case Command::AddLink:
-        return edit.Add_Link(u"http://"_s);
-    case Command::AddCategory:
-        return edit.Add_Category();
-    }
-    return false;
-}
+using Command = bool (*)(LinkEdit&);
+const Command Up = [](LinkEdit& edit) { return edit.Move(MoveDirection::Up); };
+const Command Down = [](LinkEdit& edit) { return edit.Move(MoveDirection::Down); };
+const Command Left = [](LinkEdit& edit) { return edit.Move_Left(); };
+const Command Right = [](LinkEdit& edit) { return edit.Move_Right(); };
+const Command Delete = [](LinkEdit& edit) { return edit.Delete(); };
+const Command AddLink = [](LinkEdit& edit) { return edit.Add_Link(u"http://"_s); };
+const Command AddCategory = [](LinkEdit& edit) { return edit.Add_Category(); };
 
 TEST(LinkOperations, A_command_moves_its_row_with_all_that_is_in_it) {
     Global_DefaultLinkArray.clear();
@@ -59,49 +47,49 @@ TEST(LinkOperations, A_command_moves_its_row_with_all_that_is_in_it) {
         Command Done;
         QString Result; // empty: nothing changes
     } cases[] = {
-        {u'a', Command::Up, {}},
-        {u'a', Command::Down, u"B0 a1 b1 C1 c2 D1 d2 E0 e1 f0"_s},
-        {u'B', Command::Up, {}},
-        {u'B', Command::Down, u"a0 E0 e1 f0 B0 b1 C1 c2 D1 d2"_s},
-        {u'B', Command::Left, {}},
-        {u'B', Command::Right, u"a0 E0 e1 f0 B1 b2 C2 c3 D2 d3"_s},
-        {u'b', Command::Up, u"a0 b0 B0 C1 c2 D1 d2 E0 e1 f0"_s},
-        {u'b', Command::Down, u"a0 B0 C1 b2 c2 D1 d2 E0 e1 f0"_s},
-        {u'C', Command::Up, {}},
-        {u'C', Command::Down, u"a0 B0 b1 D1 d2 C1 c2 E0 e1 f0"_s},
-        {u'C', Command::Left, u"a0 C0 c1 B0 b1 D1 d2 E0 e1 f0"_s},
-        {u'C', Command::Right, u"a0 B0 b1 D1 d2 C2 c3 E0 e1 f0"_s},
-        {u'c', Command::Up, u"a0 B0 b1 c1 C1 D1 d2 E0 e1 f0"_s},
-        {u'c', Command::Down, u"a0 B0 b1 C1 D1 c2 d2 E0 e1 f0"_s},
-        {u'D', Command::Up, u"a0 B0 b1 D1 d2 C1 c2 E0 e1 f0"_s},
-        {u'D', Command::Down, {}},
-        {u'D', Command::Left, u"a0 D0 d1 B0 b1 C1 c2 E0 e1 f0"_s},
-        {u'D', Command::Right, u"a0 B0 b1 C1 c2 D2 d3 E0 e1 f0"_s},
-        {u'd', Command::Up, u"a0 B0 b1 C1 c2 d2 D1 E0 e1 f0"_s},
-        {u'd', Command::Down, u"a0 B0 b1 C1 c2 D1 E0 d1 e1 f0"_s},
-        {u'E', Command::Up, u"a0 E0 e1 f0 B0 b1 C1 c2 D1 d2"_s},
-        {u'E', Command::Down, {}},
-        {u'E', Command::Left, {}},
-        {u'E', Command::Right, u"a0 B0 b1 E1 e2 f1 C1 c2 D1 d2"_s},
-        {u'e', Command::Up, u"a0 B0 b1 C1 c2 D1 d2 e2 E0 f0"_s},
-        {u'e', Command::Down, u"a0 B0 b1 C1 c2 D1 d2 E0 f0 e1"_s},
-        {u'f', Command::Up, u"a0 B0 b1 C1 c2 D1 d2 E0 f0 e1"_s},
-        {u'f', Command::Down, {}},
-        {u'b', Command::Delete, u"a0 B0 C1 c2 D1 d2 E0 e1 f0"_s},
-        {u'B', Command::Delete, u"a0 E0 e1 f0"_s},
-        {u'D', Command::Delete, u"a0 B0 b1 C1 c2 E0 e1 f0"_s},
-        {u'c', Command::Delete, u"a0 B0 b1 C1 D1 d2 E0 e1 f0"_s},
-        {u'a', Command::AddLink, u"a0 N0 B0 b1 C1 c2 D1 d2 E0 e1 f0"_s},
-        {u'd', Command::AddLink, u"a0 B0 b1 C1 c2 D1 d2 N2 E0 e1 f0"_s},
-        {u'a', Command::AddCategory, u"a0 N0 B0 b1 C1 c2 D1 d2 E0 e1 f0"_s},
+        {u'a', Up, {}},
+        {u'a', Down, u"B0 a1 b1 C1 c2 D1 d2 E0 e1 f0"_s},
+        {u'B', Up, {}},
+        {u'B', Down, u"a0 E0 e1 f0 B0 b1 C1 c2 D1 d2"_s},
+        {u'B', Left, {}},
+        {u'B', Right, u"a0 E0 e1 f0 B1 b2 C2 c3 D2 d3"_s},
+        {u'b', Up, u"a0 b0 B0 C1 c2 D1 d2 E0 e1 f0"_s},
+        {u'b', Down, u"a0 B0 C1 b2 c2 D1 d2 E0 e1 f0"_s},
+        {u'C', Up, {}},
+        {u'C', Down, u"a0 B0 b1 D1 d2 C1 c2 E0 e1 f0"_s},
+        {u'C', Left, u"a0 C0 c1 B0 b1 D1 d2 E0 e1 f0"_s},
+        {u'C', Right, u"a0 B0 b1 D1 d2 C2 c3 E0 e1 f0"_s},
+        {u'c', Up, u"a0 B0 b1 c1 C1 D1 d2 E0 e1 f0"_s},
+        {u'c', Down, u"a0 B0 b1 C1 D1 c2 d2 E0 e1 f0"_s},
+        {u'D', Up, u"a0 B0 b1 D1 d2 C1 c2 E0 e1 f0"_s},
+        {u'D', Down, {}},
+        {u'D', Left, u"a0 D0 d1 B0 b1 C1 c2 E0 e1 f0"_s},
+        {u'D', Right, u"a0 B0 b1 C1 c2 D2 d3 E0 e1 f0"_s},
+        {u'd', Up, u"a0 B0 b1 C1 c2 d2 D1 E0 e1 f0"_s},
+        {u'd', Down, u"a0 B0 b1 C1 c2 D1 E0 d1 e1 f0"_s},
+        {u'E', Up, u"a0 E0 e1 f0 B0 b1 C1 c2 D1 d2"_s},
+        {u'E', Down, {}},
+        {u'E', Left, {}},
+        {u'E', Right, u"a0 B0 b1 E1 e2 f1 C1 c2 D1 d2"_s},
+        {u'e', Up, u"a0 B0 b1 C1 c2 D1 d2 e2 E0 f0"_s},
+        {u'e', Down, u"a0 B0 b1 C1 c2 D1 d2 E0 f0 e1"_s},
+        {u'f', Up, u"a0 B0 b1 C1 c2 D1 d2 E0 f0 e1"_s},
+        {u'f', Down, {}},
+        {u'b', Delete, u"a0 B0 C1 c2 D1 d2 E0 e1 f0"_s},
+        {u'B', Delete, u"a0 E0 e1 f0"_s},
+        {u'D', Delete, u"a0 B0 b1 C1 c2 E0 e1 f0"_s},
+        {u'c', Delete, u"a0 B0 b1 C1 D1 d2 E0 e1 f0"_s},
+        {u'a', AddLink, u"a0 N0 B0 b1 C1 c2 D1 d2 E0 e1 f0"_s},
+        {u'd', AddLink, u"a0 B0 b1 C1 c2 D1 d2 N2 E0 e1 f0"_s},
+        {u'a', AddCategory, u"a0 N0 B0 b1 C1 c2 D1 d2 E0 e1 f0"_s},
     };
     for (const auto& one : cases) {
         Global_LinkArray = Rows_Of(list);
         LinkEdit edit;
         edit.Select(static_cast<int>(list.indexOf(one.Row)) / 3);
-        EXPECT_EQ(Carry_Out(edit, one.Done), !one.Result.isEmpty());
-        EXPECT_EQ(Text_Of(edit.Rows()), one.Result.isEmpty() ? list : one.Result)
-            << static_cast<char>(one.Row) << static_cast<int>(one.Done);
+        const auto row = &one - cases;
+        EXPECT_EQ(one.Done(edit), !one.Result.isEmpty()) << row;
+        EXPECT_EQ(Text_Of(edit.Rows()), one.Result.isEmpty() ? list : one.Result) << row;
         Load_Global_LinksArray();
     }
 }
@@ -115,7 +103,7 @@ TEST(LinkOperations, Fifty_changes_are_taken_back_one_by_one) {
         for (int step = 0; step < 90; ++step) {
             const LinkRows before = edit.Rows();
             edit.Select(static_cast<int>(random() % (before.size() + 1)) - 1);
-            const bool changed = Carry_Out(edit, static_cast<Command>(random() % 4));
+            const bool changed = std::array{Up, Down, Left, Right}[random() % 4](edit);
             ASSERT_EQ(changed, edit.Rows() != before);
             if (changed)
                 history.push_back(before);
