@@ -14,11 +14,7 @@
 #include "notes/open_note.h"
 #include "toolbar/main_form.h"
 
-#include <QApplication>
-#include <QPointer>
-
 #include <memory>
-#include <vector>
 
 namespace {
 
@@ -70,15 +66,5 @@ void Store_OpenEdits(WindowsAre windows) {
 
 void Release_Windows() {
     Unload_LinksMenu();
-    Unload_NotesEditor();
-    Unload_AddReminderWizard();
-    Unload_QuickAdd();
-    Unload_Textbox();
-    // A form takes those with it that it owns.
-    std::vector<QPointer<QWidget>> forms;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (qobject_cast<Form*>(window) != nullptr)
-            forms.emplace_back(window);
-    for (const auto& form : forms)
-        delete form.data();
+    Release_Forms();
 }

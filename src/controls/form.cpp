@@ -7,12 +7,14 @@
 #include "controls/unload_queue.h"
 #include "platform/window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 constexpr int TitleBarRoom = 12; // half of what a window manager adds above
@@ -107,4 +109,14 @@ void Form::keyPressEvent(QKeyEvent* event) {
         Unload(UnloadMode::User);
     else
         QWidget::keyPressEvent(event);
+}
+
+void Release_Forms() {
+    // A form takes those with it that it owns.
+    std::vector<QPointer<QWidget>> forms;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<Form*>(window) != nullptr)
+            forms.emplace_back(window);
+    for (const auto& form : forms)
+        delete form.data();
 }

@@ -54,5 +54,8 @@ private:
     bool asking = false;
 };
 
+// Those that are still there, once the event loop has returned.
+void Release_Forms();
+
 // The colours of windows, fields and lists: dark on light whatever the desktop's theme is.
 QPalette Form_Palette(ColorValue back = palette::Form_Back);

@@ -5,7 +5,7 @@
 #include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
-#include "controls/program_end.h"
+#include "controls/one_window.h"
 #include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
@@ -16,7 +16,6 @@
 #include "platform/desktop.h"
 
 #include <QLabel>
-#include <QPointer>
 
 #include <algorithm>
 
@@ -40,7 +39,7 @@ constexpr int NotesTip = 59;
 constexpr int StatusTip = 60;
 constexpr int TipSize = 16; // pixels, of the help pictures
 
-QPointer<frmNotesEditor> notesEditor;
+OneWindow<frmNotesEditor> notesEditor;
 int lastCategory = 0; // where the window was closed
 
 QLabel* Make_Bold(QLabel* label) {
@@ -199,15 +198,9 @@ void frmNotesEditor::On_Unload() {
 }
 
 void Show_NotesEditor() {
-    if (Program_Is_Ending())
+    frmNotesEditor* window = notesEditor.Open_OrMake();
+    if (window == nullptr)
         return;
-    if (notesEditor == nullptr || notesEditor->Is_Unloading())
-        notesEditor = new frmNotesEditor;
     Update_HelpTopic(help_page::Notes);
-    notesEditor->Present();
-}
-
-void Unload_NotesEditor() {
-    Store_OpenNote();
-    delete notesEditor.data();
+    window->Present();
 }

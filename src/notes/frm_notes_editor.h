@@ -66,5 +66,3 @@ private:
 
 // Makes the window if need be, and brings it to the front.
 void Show_NotesEditor();
-// At the end of the program; the open edits are stored.
-void Unload_NotesEditor();

@@ -24,7 +24,7 @@ protected:
     NotesEditor() { Notes_Build_Example(); }
     ~NotesEditor() override {
         Set_Program_Ending(false);
-        Unload_NotesEditor();
+        Release_Forms();
         Unload_PendingForms();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

@@ -98,6 +98,6 @@ int main(int argc, char** argv) {
     window.show();
     Show_QuickAdd();
     const int result = QApplication::exec();
-    Unload_QuickAdd();
+    Release_Forms();
     return result;
 }

@@ -1,11 +1,10 @@
 #include "accessories/help/help.h"
 
 #include "accessories/help/frm_html_view.h"
-#include "controls/program_end.h"
+#include "controls/one_window.h"
 #include "platform/paths.h"
 
 #include <QFileInfo>
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +13,7 @@ bool Global_HelpAutoUpdate = false;
 
 namespace {
 
-QPointer<frmHTMLview> viewer;
+OneWindow<frmHTMLview> viewer;
 
 QString Page_Path(const QString& page) {
     return Help_Folder() + u'/' + page;
@@ -27,20 +26,20 @@ QString Help_Folder() {
 }
 
 void Update_HelpTopic(const QString& page) {
-    if (!Global_HelpLoaded || !Global_HelpAutoUpdate || viewer == nullptr)
+    frmHTMLview* window = viewer.Open();
+    if (window == nullptr || !Global_HelpAutoUpdate)
         return;
     // The page on view keeps the place that was read.
-    if (viewer->HTMLFile() != Page_Path(page))
-        viewer->SetHTMLFile(Page_Path(page));
+    if (window->HTMLFile() != Page_Path(page))
+        window->SetHTMLFile(Page_Path(page));
 }
 
 void Show_HelpPage(const QString& page) {
-    if (Program_Is_Ending())
+    frmHTMLview* window = viewer.Open_OrMake();
+    if (window == nullptr)
         return;
-    if (viewer == nullptr || viewer->Is_Unloading())
-        viewer = new frmHTMLview;
-    viewer->Ask_For(Page_Path(page));
-    viewer->SetHelpPos();
-    viewer->EnableTimer();
-    viewer->Present();
+    window->Ask_For(Page_Path(page));
+    window->SetHelpPos();
+    window->EnableTimer();
+    window->Present();
 }

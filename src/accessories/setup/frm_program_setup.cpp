@@ -5,6 +5,7 @@
 #include "controls/chk_box.h"
 #include "controls/help_topic.h"
 #include "controls/metrics.h"
+#include "controls/one_window.h"
 #include "controls/program_end.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
@@ -13,7 +14,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QRadioButton>
 
 #include <algorithm>
@@ -50,7 +50,7 @@ enum SetupTip {
     RunTip
 };
 
-QPointer<frmProgramSetup> setupWindow;
+OneWindow<frmProgramSetup> setupWindow;
 
 } // namespace
 
@@ -198,9 +198,6 @@ void frmProgramSetup::wbButton3_Click() {
 }
 
 void Show_ProgramSetup() {
-    if (Program_Is_Ending())
-        return;
-    if (setupWindow == nullptr || setupWindow->Is_Unloading())
-        setupWindow = new frmProgramSetup;
-    setupWindow->Present();
+    if (frmProgramSetup* window = setupWindow.Open_OrMake())
+        window->Present();
 }

@@ -4,6 +4,7 @@
 #include "accessories/setup/setup.h"
 #include "controls/chk_box.h"
 #include "controls/help_topic.h"
+#include "controls/one_window.h"
 #include "controls/program_end.h"
 #include "controls/the_screen.h"
 #include "controls/timers.h"
@@ -15,7 +16,6 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QRadioButton>
 
 using namespace Qt::StringLiterals;
@@ -25,7 +25,7 @@ namespace {
 constexpr ColorValue StepColor = 0x0000C0;
 constexpr ColorValue CurrentStepColor = 0x0000FF;
 
-QPointer<frmWizard> wizard;
+OneWindow<frmWizard> wizard;
 
 void Guard_Toolbar() {
     Global_Toolbar->Guard_Hiding(u"The Hide/Minimize are disabled during the setup Wizard"_s);
@@ -169,11 +169,8 @@ bool frmWizard::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Show_SetupWizard() {
-    if (Program_Is_Ending() || Global_Toolbar == nullptr)
-        return;
-    if (wizard == nullptr || wizard->Is_Unloading())
-        wizard = new frmWizard;
-    wizard->Present();
+    if (frmWizard* window = wizard.Open_OrMake())
+        window->Present();
 }
 
 void Connect_RunWizard(Timers& timers) {
@@ -186,6 +183,6 @@ void Connect_RunWizard(Timers& timers) {
 }
 
 void Drop_SetupWizard() {
-    if (wizard != nullptr)
-        wizard->Unload(UnloadMode::Ending);
+    if (frmWizard* window = wizard.Open())
+        window->Unload(UnloadMode::Ending);
 }

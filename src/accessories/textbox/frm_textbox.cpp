@@ -3,8 +3,8 @@
 #include "accessories/textbox/textbox_rules.h"
 #include "controls/help_topic.h"
 #include "controls/metrics.h"
+#include "controls/one_window.h"
 #include "controls/painting.h"
-#include "controls/program_end.h"
 #include "controls/the_screen.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
@@ -13,7 +13,6 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPlainTextDocumentLayout>
-#include <QPointer>
 #include <QTextBlock>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +23,7 @@ constexpr qsizetype SelectedAtFirst = 100;  // characters
 constexpr std::int32_t TopmostPause = 1000; // ms; being put on top can ask for another painting
 
 std::optional<WindowPlace> savedPlace;
-QPointer<frmTextbox> textbox;
+OneWindow<frmTextbox> textbox;
 
 QSize Frame_Size(const QWidget* window) {
     return window == nullptr ? TextboxClientSize : window->frameGeometry().size();
@@ -181,26 +180,20 @@ void frmTextbox::Stay_OnTop() {
 }
 
 void Init_Textbox() {
-    Unload_Textbox();
     savedPlace = WindowPlace{Global_Config_Textbox_Top, Global_Config_Textbox_Left};
     Save_Place(Wanted_Place(nullptr));
 }
 
 void Toggle_Textbox() {
-    if (Program_Is_Ending())
+    frmTextbox* box = textbox.Open_OrMake();
+    if (box == nullptr)
         return;
-    if (textbox == nullptr)
-        textbox = new frmTextbox;
-    if (textbox->isVisible() && !textbox->isMinimized())
-        textbox->Hide_Box();
+    if (box->isVisible() && !box->isMinimized())
+        box->Hide_Box();
     else
-        textbox->Show_Box();
+        box->Show_Box();
 }
 
 std::optional<WindowPlace> Textbox_Place() {
     return savedPlace;
-}
-
-void Unload_Textbox() {
-    delete textbox.data();
 }

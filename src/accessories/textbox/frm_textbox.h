@@ -58,5 +58,3 @@ void Init_Textbox();
 void Toggle_Textbox();
 // Where the box stands; nothing before Init_Textbox. It is plain data, good at any end.
 std::optional<WindowPlace> Textbox_Place();
-// At the end of the program.
-void Unload_Textbox();

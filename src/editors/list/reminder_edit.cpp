@@ -2,25 +2,25 @@
 
 #include "accessories/help/help.h"
 #include "controls/help_topic.h"
+#include "controls/one_window.h"
 #include "editors/list/frm_reminder_edit.h"
 
-#include <QPointer>
-
 namespace {
-QPointer<frmReminderEdit> listWindow;
+OneWindow<frmReminderEdit> listWindow;
 }
 
 frmReminderEdit* Open_ReminderEdit() {
-    return listWindow == nullptr || listWindow->Is_Unloading() ? nullptr : listWindow.data();
+    return listWindow.Open();
 }
 
 void Show_ReminderEdit() {
-    if (Open_ReminderEdit() == nullptr)
-        listWindow = new frmReminderEdit;
-    else
-        listWindow->Refresh_View();
+    if (frmReminderEdit* open = listWindow.Open())
+        open->Refresh_View();
+    frmReminderEdit* window = listWindow.Open_OrMake();
+    if (window == nullptr)
+        return;
     Update_HelpTopic(help_page::Reminders);
-    listWindow->Present();
+    window->Present();
 }
 
 void Restore_RefusedPage() {

@@ -4,8 +4,8 @@
 #include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/one_window.h"
 #include "controls/painting.h"
-#include "controls/program_end.h"
 #include "controls/toolbar.h"
 #include "controls/wb_button.h"
 #include "core/categories.h"
@@ -45,7 +45,7 @@ constexpr int ButtonTop = 349;
 constexpr int NextWidth = 90;
 constexpr QSize TitlePicture(32, 32);
 
-QPointer<frmAddReminderWizard> wizardWindow;
+OneWindow<frmAddReminderWizard> wizardWindow;
 
 } // namespace
 
@@ -247,16 +247,8 @@ void frmAddReminderWizard::paintEvent(QPaintEvent*) {
 }
 
 void Show_AddReminderWizard() {
-    if (Program_Is_Ending())
-        return;
-    if (wizardWindow && !wizardWindow->Is_Unloading()) {
-        wizardWindow->Present();
-        return;
-    }
-    wizardWindow = new frmAddReminderWizard;
-    wizardWindow->Load();
-}
-
-void Unload_AddReminderWizard() {
-    delete wizardWindow;
+    if (frmAddReminderWizard* open = wizardWindow.Open())
+        open->Present();
+    else if (frmAddReminderWizard* window = wizardWindow.Open_OrMake())
+        window->Load();
 }

@@ -58,5 +58,3 @@ private:
 
 // Opens the wizard, or brings the open one to the front. May pump events.
 void Show_AddReminderWizard();
-// Releases it at the end of the program, after the last event.
-void Unload_AddReminderWizard();

@@ -4,7 +4,7 @@
 #include "controls/chk_box.h"
 #include "controls/combo_box.h"
 #include "controls/help_topic.h"
-#include "controls/program_end.h"
+#include "controls/one_window.h"
 #include "controls/text_fields.h"
 #include "controls/wb_button.h"
 #include "delivery/deliver.h"
@@ -28,7 +28,7 @@ constexpr std::size_t FirstHour = 0;
 constexpr std::size_t FirstDay = 4;
 constexpr std::size_t DateBox = 6;
 
-QPointer<frmQuickAddReminder> quickWindow;
+OneWindow<frmQuickAddReminder> quickWindow;
 
 } // namespace
 
@@ -158,14 +158,9 @@ void frmQuickAddReminder::On_Unload() {
 }
 
 void Show_QuickAdd() {
-    if (Program_Is_Ending())
+    frmQuickAddReminder* window = quickWindow.Open_OrMake();
+    if (window == nullptr)
         return;
-    if (!quickWindow || quickWindow->Is_Unloading())
-        quickWindow = new frmQuickAddReminder;
-    quickWindow->Present();
+    window->Present();
     Update_HelpTopic(help_page::NewReminder);
-}
-
-void Unload_QuickAdd() {
-    delete quickWindow;
 }

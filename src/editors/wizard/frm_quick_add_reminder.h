@@ -62,5 +62,3 @@ private:
 
 // Opens the dialog, or brings the open one to the front.
 void Show_QuickAdd();
-// Releases it at the end of the program, after the last event.
-void Unload_QuickAdd();

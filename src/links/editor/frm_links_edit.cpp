@@ -5,7 +5,7 @@
 #include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/metrics.h"
-#include "controls/program_end.h"
+#include "controls/one_window.h"
 #include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
@@ -18,7 +18,6 @@
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPointer>
 
 #include <algorithm>
 
@@ -41,7 +40,7 @@ constexpr int PictureSize = 16;
 constexpr int TipList = 53;
 constexpr qsizetype ShownName = 500; // characters of a name or path in a question
 
-QPointer<frmLinksEdit> linksWindow;
+OneWindow<frmLinksEdit> linksWindow;
 
 bool Ask(const QString& text) {
     return platform::Dialogs::Get().Question(text, false) == platform::Answer::Yes;
@@ -301,15 +300,14 @@ void frmLinksEdit::keyPressEvent(QKeyEvent* event) {
 }
 
 void Show_LinksEditor() {
-    if (Program_Is_Ending())
+    frmLinksEdit* window = linksWindow.Open_OrMake();
+    if (window == nullptr)
         return;
-    if (linksWindow == nullptr || linksWindow->Is_Unloading())
-        linksWindow = new frmLinksEdit;
     Update_HelpTopic(help_page::Links);
-    linksWindow->Present();
+    window->Present();
 }
 
 void Store_OpenLinksPanel() {
-    if (linksWindow != nullptr && !linksWindow->Is_Unloading())
-        linksWindow->Store_Panel();
+    if (frmLinksEdit* window = linksWindow.Open())
+        window->Store_Panel();
 }

@@ -36,11 +36,7 @@ protected:
             Write_File(folder + u'/' + QString::fromLatin1(name) + u".html"_s,
                        QByteArray("<p>page ") + name);
     }
-    ~HelpViewer() override {
-        if (frmHTMLview* open = Window())
-            open->close();
-        Unload_PendingForms();
-    }
+    ~HelpViewer() override { Release_Forms(); }
     static frmHTMLview* Window() { return Open_Window<frmHTMLview>(); }
     static HelpBrowser* Browser() { return Window()->findChild<HelpBrowser*>(); }
     static QString Text() { return Browser()->toPlainText(); }

@@ -19,11 +19,7 @@ namespace {
 
 class ProgramSetup : public testing::Test {
 protected:
-    ~ProgramSetup() override {
-        if (auto* window = Open_Window<frmProgramSetup>(); window != nullptr)
-            window->close();
-        Unload_PendingForms();
-    }
+    ~ProgramSetup() override { Release_Forms(); }
     // Of the window, which is opened if need be.
     template <class Control>
     static Control* The(const QString& name) {

@@ -32,9 +32,7 @@ protected:
     }
     ~SetupWizard() override {
         Set_Program_Ending(false);
-        if (Window() != nullptr)
-            Window()->close();
-        Unload_PendingForms();
+        Release_Forms();
     }
     static frmWizard* Window() { return Open_Window<frmWizard>(); }
     static void Choose(const QString& option) { Find<QRadioButton>(option)->click(); }

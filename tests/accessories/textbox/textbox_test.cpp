@@ -14,7 +14,7 @@ protected:
         Global_Config_Textbox_Left = 1000 * 15 + 3;
         Init_Textbox();
     }
-    ~Textbox() override { Unload_Textbox(); }
+    ~Textbox() override { Release_Forms(); }
     void Open() {
         Toggle_Textbox();
         form = Open_Window<frmTextbox>();
@@ -89,7 +89,7 @@ TEST_F(Textbox, Its_place_is_kept_and_one_off_the_screen_comes_back) {
     system.desktop.screen = {260, 120};
     Toggle_Textbox();
     EXPECT_TRUE(QRect(0, 0, 260, 120).contains(form->frameGeometry().topLeft()));
-    Unload_Textbox();
+    Release_Forms();
     EXPECT_TRUE(Textbox_Place());
     struct Case {
         const char* name;

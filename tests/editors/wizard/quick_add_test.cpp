@@ -21,7 +21,7 @@ protected:
         window = Open_Window<frmQuickAddReminder>();
     }
     ~QuickAddTest() override {
-        Unload_QuickAdd();
+        Release_Forms();
         Unload_ReminderWindows();
         Global_Timers = nullptr;
     }

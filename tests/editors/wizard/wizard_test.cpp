@@ -13,7 +13,7 @@ using platform::BoxStyle;
 class WizardTest : public EditorTest {
 protected:
     WizardTest() { Open(); }
-    ~WizardTest() override { Unload_AddReminderWizard(); }
+    ~WizardTest() override { Release_Forms(); }
     void Open() {
         Show_AddReminderWizard();
         window = Open_Window<frmAddReminderWizard>();

@@ -33,8 +33,7 @@ protected:
     ~LinksEditor() override {
         Set_Program_Ending(false);
         On_LinksTree_Changed({});
-        for (QWidget* window : QApplication::topLevelWidgets())
-            delete qobject_cast<frmLinksEdit*>(window);
+        Release_Forms();
         Global_PendingUnloads.clear();
         Global_LinkArray.clear();
     }
