@@ -1,104 +1,32 @@
 #include "controls/cool_tab_accessible.h"
 
+#include "controls/accessible.h"
 #include "controls/cool_tab.h"
-
-#include <QAccessible>
-#include <QAccessibleWidget>
-#include <QPointer>
-
-#include <map>
 
 namespace {
 
-class AccessibleTab : public QAccessibleInterface, public QAccessibleActionInterface {
+class AccessibleStrip : public AccessibleParts {
 public:
-    AccessibleTab(CoolTab* owner, int number) : strip(owner), index(number) {}
-
-    bool isValid() const override { return !strip.isNull() && index < strip->TabCount(); }
-    QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return strip ? strip->window()->windowHandle() : nullptr; }
-    QAccessibleInterface* parent() const override {
-        return QAccessible::queryAccessibleInterface(strip);
-    }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessible::Role role() const override { return QAccessible::PageTab; }
-    QRect rect() const override {
-        if (!isValid())
-            return {};
-        const QRect place = strip->Tab_Rect(index);
-        return {strip->mapToGlobal(place.topLeft()), place.size()};
-    }
-    QString text(QAccessible::Text kind) const override {
-        return isValid() && kind == QAccessible::Name ? strip->Tab_Caption(index) : QString();
-    }
-    void setText(QAccessible::Text, const QString&) override {}
-    QAccessible::State state() const override {
-        QAccessible::State now;
-        now.invalid = !isValid();
-        if (isValid()) {
-            now.selectable = true;
-            now.focusable = true;
-            now.disabled = !strip->isEnabled();
-            now.invisible = !strip->isVisible();
-            now.selected = strip->Selected() == index;
-            now.focused = now.selected && strip->hasFocus();
-        }
-        return now;
-    }
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                    : nullptr;
-    }
-    QStringList actionNames() const override { return {pressAction()}; }
-    void doAction(const QString& name) override {
-        if (isValid() && name == pressAction())
-            strip->Choose(index);
-    }
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
-
-private:
-    QPointer<CoolTab> strip;
-    int index;
-};
-
-class AccessibleStrip : public QAccessibleWidget {
-public:
-    explicit AccessibleStrip(CoolTab* strip) : QAccessibleWidget(strip, QAccessible::PageTabList) {}
-    ~AccessibleStrip() override {
-        for (const auto& [index, id] : known)
-            QAccessible::deleteAccessibleInterface(id);
-    }
-    AccessibleStrip(const AccessibleStrip&) = delete;
-    AccessibleStrip& operator=(const AccessibleStrip&) = delete;
+    explicit AccessibleStrip(CoolTab* strip) : AccessibleParts(strip, QAccessible::PageTabList) {}
 
     int childCount() const override { return Strip()->TabCount(); }
-    QAccessibleInterface* child(int index) const override {
-        if (index < 0 || index >= childCount())
-            return nullptr;
-        const auto found = known.find(index);
-        if (found != known.end())
-            return QAccessible::accessibleInterface(found->second);
-        auto* tab = new AccessibleTab(Strip(), index);
-        known[index] = QAccessible::registerAccessibleInterface(tab);
-        return tab;
+    QAccessible::Role Part_Role(int) const override { return QAccessible::PageTab; }
+    QAccessible::State Part_State(int tab) const override {
+        QAccessible::State now;
+        now.selectable = true;
+        now.focusable = true;
+        now.disabled = !Strip()->isEnabled();
+        now.invisible = !Strip()->isVisible();
+        now.selected = Strip()->Selected() == tab;
+        now.focused = now.selected && Strip()->hasFocus();
+        return now;
     }
-    int indexOfChild(const QAccessibleInterface* tab) const override {
-        for (const auto& [index, id] : known) {
-            if (QAccessible::accessibleInterface(id) == tab)
-                return index;
-        }
-        return -1;
+    QString Part_Text(int tab, QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? Strip()->Tab_Caption(tab) : QString();
     }
-    QAccessibleInterface* childAt(int x, int y) const override {
-        for (int i = 0; i < childCount(); ++i) {
-            if (child(i)->rect().contains(x, y))
-                return child(i);
-        }
-        return nullptr;
-    }
+    QRect Part_Rect(int tab) const override { return Strip()->Tab_Rect(tab); }
+    void Press_Part(int tab) override { Strip()->Choose(tab); }
+
     QAccessibleInterface* focusChild() const override {
         return Strip()->hasFocus() ? child(Strip()->Selected()) : nullptr;
     }
@@ -109,22 +37,12 @@ public:
 
 private:
     CoolTab* Strip() const { return static_cast<CoolTab*>(widget()); }
-    mutable std::map<int, QAccessible::Id> known;
 };
-
-QAccessibleInterface* Make_Accessible(const QString&, QObject* object) {
-    auto* strip = qobject_cast<CoolTab*>(object);
-    return strip == nullptr ? nullptr : new AccessibleStrip(strip);
-}
 
 } // namespace
 
 void Install_CoolTabAccessibility() {
-    static const bool installed = [] {
-        QAccessible::installFactory(Make_Accessible);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    Install_Accessible<CoolTab, AccessibleStrip>();
 }
 
 void Tell_TabSelection(CoolTab* strip) {
