@@ -3,7 +3,6 @@
 #include "controls/cool_tab_accessible.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
-#include "platform/desktop.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -16,19 +15,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PollInterval = 10; // ms; nothing tells a control that the mouse has left it
+constexpr int LookInterval = 10; // ms
 constexpr int CaptionMargin = 8; // pixels on either side
 constexpr int LowerBy = 2;       // so much lower stand the tabs that are not selected
 constexpr int LowestWithLine = 4;
 
 } // namespace
 
-CoolTab::CoolTab(QWidget* parent) : QWidget(parent) {
+CoolTab::CoolTab(QWidget* parent)
+    : QWidget(parent), watch(LookInterval, [this] { End_MouseOver(); }) {
     setFont(Small_Font());
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    Timer1.setInterval(PollInterval);
-    connect(&Timer1, &QTimer::timeout, this, &CoolTab::Timer1_Tick);
     Install_CoolTabAccessibility();
     Set_Tabs(u"-1;Tab 1"_s);
 }
@@ -98,26 +96,16 @@ void CoolTab::mouseMoveEvent(QMouseEvent* event) {
     const int tab = Tab_At(at);
     if (!MouseOverHighlight || tab == -1 || tab == hot)
         return;
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor)
+    const auto corner = Corner_ByCursor(at);
+    if (!corner)
         return;
     hot = tab;
-    hotArea = Tab_Rect(tab).translated(QPoint(cursor->x, cursor->y) - at);
-    Timer1.start();
+    watch.Start(Tab_Rect(tab).translated(*corner));
     update();
 }
 
-void CoolTab::Timer1_Tick() {
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor)
-        return;
-    // Both edges belong to the tab.
-    if (!hotArea.adjusted(0, 0, 1, 1).contains(cursor->x, cursor->y))
-        End_MouseOver();
-}
-
 void CoolTab::End_MouseOver() {
-    Timer1.stop();
+    watch.Stop();
     if (hot != -1) {
         hot = -1;
         update();

@@ -1,9 +1,9 @@
 // A strip of tabs with gradient faces. It knows no pages: it only reports which tab was chosen.
 #pragma once
 
+#include "controls/mouse_watch.h"
 #include "controls/tab_list.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <vector>
@@ -59,13 +59,11 @@ private:
     int Tab_Width(const TabEntry& tab) const;
     int Tab_At(const QPoint& position) const;
     void End_MouseOver();
-    void Timer1_Tick();
     void Paint_Tab(QPainter& painter, int tab, const std::vector<ColorValue>& rows) const;
 
     std::vector<TabEntry> tabs;
     int selected = -1;
     int hot = -1;
-    QRect hotArea; // of the tab under the mouse, on the screen
     bool focusByKey = false;
-    QTimer Timer1;
+    MouseWatch watch;
 };

@@ -4,7 +4,6 @@
 #include "controls/icons.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
-#include "platform/desktop.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -15,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PollInterval = 100; // ms
+constexpr int LookInterval = 100; // ms
 constexpr int WidestText = 300;   // pixels
 
 // Null for a number that has no text.
@@ -27,12 +26,10 @@ const TooltipText* Text_Of(int index) {
 } // namespace
 
 TooltipPicture::TooltipPicture(int number, int left, int top, QWidget* parent)
-    : QWidget(parent), index(number) {
+    : QWidget(parent), index(number), watch(LookInterval, [this] { Mouse_Left(); }) {
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setGeometry(QRect(QPoint(left, top), Icon_Size(IconName::TooltipMark)));
-    HideToolTipTimer.setInterval(PollInterval);
-    connect(&HideToolTipTimer, &QTimer::timeout, this, &TooltipPicture::HideToolTipTimer_Tick);
     const TooltipText* text = Text_Of(index);
     setAccessibleName(text == nullptr ? u"Help"_s : u"Help: "_s + text->Title);
     if (text != nullptr)
@@ -56,27 +53,22 @@ void TooltipPicture::Show_Tip(const QRect& onScreen) {
 }
 
 void TooltipPicture::Hide_Tip() {
-    HideToolTipTimer.stop();
+    watch.Stop();
     shownByKey = false;
     if (Global_frmTooltip)
         Global_frmTooltip->Hide_For(this);
 }
 
 void TooltipPicture::mouseMoveEvent(QMouseEvent* event) {
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor || !Global_TooltipsLoaded)
+    const auto corner = Corner_ByCursor(event->position().toPoint());
+    if (!corner || !Global_TooltipsLoaded)
         return;
-    hotArea = QRect(QPoint(cursor->x, cursor->y) - event->position().toPoint(), size());
-    Show_Tip(hotArea);
-    HideToolTipTimer.start();
+    Show_Tip({*corner, size()});
+    watch.Start({*corner, size()});
 }
 
-void TooltipPicture::HideToolTipTimer_Tick() {
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor || hotArea.adjusted(0, 0, 1, 1).contains(cursor->x, cursor->y))
-        return;
-    HideToolTipTimer.stop();
-    // Who reads by the keyboard need not keep the mouse still.
+// Who reads by the keyboard need not keep the mouse still.
+void TooltipPicture::Mouse_Left() {
     if (!shownByKey)
         Hide_Tip();
 }

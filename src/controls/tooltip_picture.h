@@ -2,9 +2,9 @@
 // the mouse is over it, or while it has the focus.
 #pragma once
 
+#include "controls/mouse_watch.h"
 #include "controls/tooltip_texts.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class TooltipPicture : public QWidget {
@@ -26,10 +26,9 @@ protected:
 private:
     void Show_Tip(const QRect& onScreen);
     void Hide_Tip();
-    void HideToolTipTimer_Tick();
+    void Mouse_Left();
 
     int index;
-    QRect hotArea; // of the picture on the screen, when the mouse came
     bool shownByKey = false;
-    QTimer HideToolTipTimer;
+    MouseWatch watch;
 };

@@ -8,10 +8,11 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int PollInterval = 10; // ms; nothing tells a control that the mouse has left it
+constexpr int LookInterval = 10; // ms
 }
 
-wbButton::wbButton(QWidget* parent) : QWidget(parent), caption(u"Button 1"_s) {
+wbButton::wbButton(QWidget* parent)
+    : QWidget(parent), caption(u"Button 1"_s), mouseOver(LookInterval, [this] { update(); }) {
     setFont(Small_Font());
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -19,9 +20,7 @@ wbButton::wbButton(QWidget* parent) : QWidget(parent), caption(u"Button 1"_s) {
     // A press on a disabled button must not become a press on the window behind it.
     setAttribute(Qt::WA_NoMousePropagation);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    timer1.setInterval(PollInterval);
     Install_ButtonAccessibility();
-    connect(&timer1, &QTimer::timeout, this, &wbButton::Timer1_Tick);
 }
 
 void wbButton::Set_Caption(const QString& text) {

@@ -4,13 +4,12 @@
 
 #include "controls/back_style.h"
 #include "controls/input.h"
+#include "controls/mouse_watch.h"
 #include "controls/palette.h"
-#include "platform/desktop.h"
 
 #include <QIcon>
 #include <QLine>
 #include <QRect>
-#include <QTimer>
 #include <QWidget>
 
 #include <optional>
@@ -95,7 +94,6 @@ private:
     void Press(QMouseEvent* event);
     void Begin_MouseOver(const QPointF& position);
     void End_MouseOver();
-    void Timer1_Tick();
     void Let_Go();
     void Paint_SystemFace(QPainter& painter);
     void Paint_Decorations(QPainter& painter);
@@ -128,8 +126,5 @@ private:
     bool spaceHeld = false;
     bool doubleClicked = false; // the release that follows belongs to a double click
     bool focusByKey = false;    // only a keyboard user needs the focus mark
-    bool mouseOver = false;
-    platform::Point origin; // of the button on the screen, when the mouse came
-    platform::Size overSize;
-    QTimer timer1;
+    MouseWatch mouseOver;
 };

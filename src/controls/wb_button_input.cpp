@@ -92,39 +92,20 @@ void wbButton::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void wbButton::Begin_MouseOver(const QPointF& position) {
-    if (!HMouseover || style != ButtonStyle::Flat || mouseOver || !isEnabled()) {
+    if (!HMouseover || style != ButtonStyle::Flat || mouseOver.Is_Watching() || !isEnabled())
         return;
-    }
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor) {
+    const auto corner = Corner_ByCursor(
+        {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))});
+    if (!corner)
         return;
-    }
-    origin = {cursor->x - static_cast<int>(std::floor(position.x())),
-              cursor->y - static_cast<int>(std::floor(position.y()))};
-    overSize = {width(), height()};
-    mouseOver = true;
-    timer1.start();
+    mouseOver.Start({*corner, size()});
     update();
 }
 
-void wbButton::Timer1_Tick() {
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (!cursor) {
-        return;
-    }
-    const int dx = cursor->x - origin.x;
-    const int dy = cursor->y - origin.y;
-    if (dx < 0 || dy < 0 || dx > overSize.width || dy > overSize.height) {
-        End_MouseOver();
-    }
-}
-
 void wbButton::End_MouseOver() {
-    timer1.stop();
-    if (mouseOver) {
-        mouseOver = false;
+    if (mouseOver.Is_Watching())
         update();
-    }
+    mouseOver.Stop();
 }
 
 void wbButton::keyPressEvent(QKeyEvent* event) {

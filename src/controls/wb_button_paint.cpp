@@ -21,11 +21,11 @@ QColor wbButton::Caption_Color() const {
     if (!isEnabled()) {
         return palette::To_Color(palette::System_GrayText);
     }
-    return palette::To_Color(mouseOver ? hForeColor : foreColor);
+    return palette::To_Color(mouseOver.Is_Watching() ? hForeColor : foreColor);
 }
 
 QColor wbButton::Border_Color() const {
-    const QColor color = palette::To_Color(mouseOver ? hBorderColor : borderColor);
+    const QColor color = palette::To_Color(mouseOver.Is_Watching() ? hBorderColor : borderColor);
     return isEnabled() ? color : palette::Faded(color);
 }
 

@@ -13,7 +13,6 @@
 #include "platform/dialogs.h"
 #include "settings/global_settings.h"
 
-#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -158,14 +157,6 @@ bool frmWizard::Query_Unload(UnloadMode) {
     if (!message.isEmpty())
         platform::Dialogs::Get().Message(message, platform::BoxStyle::Exclamation);
     return true;
-}
-
-// The texts below an option belong to it.
-bool frmWizard::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease)
-        if (auto* option = watched->property("option").value<QRadioButton*>(); option != nullptr)
-            option->setChecked(true);
-    return Form::eventFilter(watched, event);
 }
 
 void Show_SetupWizard() {

@@ -22,7 +22,6 @@ public:
 
 protected:
     bool Query_Unload(UnloadMode mode) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // frm_wizard_pages.cpp
@@ -35,8 +34,8 @@ private:
     void Add_DateFormat(QWidget* page);
     void Add_StartUp(QWidget* page);
     void Add_Finish(QWidget* page);
-    QLabel* Add_OptionLabel(const QString& text, int top, int width, QWidget* page,
-                            QRadioButton* option);
+    void Add_OptionLabel(const QString& text, int top, int width, QWidget* page,
+                         QRadioButton* option);
     QRadioButton* Add_Option(const QString& text, int top, QWidget* page);
 
     void Take_Toolbar();

@@ -1,6 +1,7 @@
 // What stands on the wizard's pages, and where.
 #include "accessories/setup/frm_wizard.h"
 #include "controls/chk_box.h"
+#include "controls/click_filter.h"
 #include "controls/help_topic.h"
 #include "controls/metrics.h"
 #include "controls/the_screen.h"
@@ -113,13 +114,10 @@ QRadioButton* frmWizard::Add_Option(const QString& text, int top, QWidget* page)
     return option;
 }
 
-QLabel* frmWizard::Add_OptionLabel(const QString& text, int top, int width, QWidget* page,
-                                   QRadioButton* option) {
-    QLabel* label = Add_Label(text, Indent, top, width, page);
-    label->setProperty("option", QVariant::fromValue(option));
-    label->installEventFilter(this);
+void frmWizard::Add_OptionLabel(const QString& text, int top, int width, QWidget* page,
+                                QRadioButton* option) {
+    new ClickFilter(Add_Label(text, Indent, top, width, page), option);
     option->setAccessibleDescription(option->accessibleDescription() + text + u' ');
-    return label;
 }
 
 void frmWizard::Add_Welcome(QWidget* page) {

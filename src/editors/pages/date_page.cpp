@@ -3,6 +3,7 @@
 #include "controls/form.h"
 #include "core/date_text.h"
 #include "editors/pages/date_page_view.h"
+#include "platform/desktop.h"
 #include "platform/dialogs.h"
 
 #include <QStyle>

@@ -18,7 +18,6 @@ namespace {
 
 constexpr int RowPitch = HourRowView::Height + 1;
 constexpr int ScrollBarWidth = 17;
-constexpr int HoverInterval = 100; // ms
 
 } // namespace
 
@@ -40,8 +39,6 @@ HourList::HourList(const QRect& place, QWidget* parent) : QWidget(parent) {
     VScroll1->setFocusPolicy(Qt::NoFocus);
     VScroll1->hide();
     connect(VScroll1, &QScrollBar::valueChanged, this, &HourList::VScroll1_Change);
-    hrDelTimer.setInterval(HoverInterval);
-    connect(&hrDelTimer, &QTimer::timeout, this, &HourList::hrDelTimer_Tick);
     Fill_Views();
 }
 
@@ -56,8 +53,6 @@ void HourList::Add_View() {
         rows[static_cast<std::size_t>(row)].Text(cell) = view->p4Text(cell)->text();
         Q_EMIT Cell_Changed(row, cell);
     });
-    connect(view->hrDelLabel, &HrDelLabel::Mouse_Over, this,
-            [this, view] { hrDelLabel_MouseMove(view); });
 }
 
 void HourList::Set_Rows(std::vector<HourRow> shown) {
@@ -164,23 +159,6 @@ void HourList::Focus_Row(int row, int place) {
     const std::vector<QWidget*> chain = view->Focus_Chain();
     const auto last = static_cast<int>(chain.size()) - 1;
     chain[static_cast<std::size_t>(std::clamp(place, 0, last))]->setFocus(Qt::TabFocusReason);
-}
-
-void HourList::hrDelLabel_MouseMove(HourRowView* view) {
-    if (hotLabel != nullptr && hotLabel != view->hrDelLabel)
-        hotLabel->Set_Hot(false);
-    hotLabel = view->hrDelLabel;
-    hotLabel->Set_Hot(true);
-    hotArea = QRect(hotLabel->mapToGlobal(QPoint()), hotLabel->size());
-    hrDelTimer.start();
-}
-
-void HourList::hrDelTimer_Tick() {
-    const auto cursor = platform::Desktop::Get().Cursor_Position();
-    if (cursor && hotArea.contains(cursor->x, cursor->y) && hotLabel->isVisible())
-        return;
-    hotLabel->Set_Hot(false);
-    hrDelTimer.stop();
 }
 
 void HourList::wheelEvent(QWheelEvent* event) {

@@ -4,7 +4,6 @@
 
 #include "editors/pages/hour_row_view.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <vector>
@@ -49,15 +48,10 @@ private:
     void VScroll1_Change();
     void Focus_Row(int row, int place);
     bool Is_Row(int row) const { return row >= 0 && row < Row_Count(); }
-    void hrDelLabel_MouseMove(HourRowView* view);
-    void hrDelTimer_Tick();
 
     std::vector<HourRow> rows;
     std::vector<HourRowView*> views; // from the top
     QWidget* Picture4 = nullptr;     // the inside of the frame
     QScrollBar* VScroll1 = nullptr;
     int errorRow = -1;
-    QTimer hrDelTimer;
-    HrDelLabel* hotLabel = nullptr;
-    QRect hotArea; // on the screen
 };

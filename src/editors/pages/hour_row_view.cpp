@@ -45,7 +45,7 @@ HourRowView::HourRowView(QWidget* parent) : QWidget(parent) {
     connect(p4Chk, &ChkBox::Unchecked, this, [this] { Q_EMIT Tick_Changed(row, false); });
     hrDelLabel = new HrDelLabel(this);
     hrDelLabel->setGeometry(DeleteLeft, FieldTop, DeleteWidth, pages::FieldHeight);
-    connect(hrDelLabel, &QPushButton::clicked, this, [this] { Q_EMIT Delete_Click(row); });
+    connect(hrDelLabel, &QAbstractButton::clicked, this, [this] { Q_EMIT Delete_Click(row); });
     for (QLabel*& label : p4label)
         label = pages::Add_Caption({}, 0, (Height - SmallLineHeight) / 2, this);
     // The period stands first, and so it does for Tab.

@@ -98,33 +98,13 @@ void TimeField::focusOutEvent(QFocusEvent* event) {
         Q_EMIT Lost_Focus();
 }
 
-HrDelLabel::HrDelLabel(QWidget* parent) : QPushButton(u"x"_s, parent) {
-    setFont(Small_Font());
-    setMouseTracking(true);
+HrDelLabel::HrDelLabel(QWidget* parent) : LinkLabel(u"x"_s, parent) {
     setToolTip(u"Delete"_s);
-    setCursor(Qt::PointingHandCursor);
-}
-
-void HrDelLabel::Set_Hot(bool value) {
-    hot = value;
-    update();
-}
-
-void HrDelLabel::mouseMoveEvent(QMouseEvent* event) {
-    QPushButton::mouseMoveEvent(event);
-    Q_EMIT Mouse_Over();
-}
-
-void HrDelLabel::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QPushButton::keyPressEvent(event);
 }
 
 void HrDelLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const bool marked = hot || (hasFocus() && window()->isActiveWindow());
+    const bool marked = Is_Hot() || (hasFocus() && window()->isActiveWindow());
     QFont font = Small_Font();
     font.setUnderline(marked);
     painter.setFont(font);

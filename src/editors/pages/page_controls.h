@@ -2,11 +2,11 @@
 // of a row.
 #pragma once
 
+#include "controls/link_label.h"
 #include "controls/palette.h"
 
 #include <QColor>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QWidget>
 
 #include <optional>
@@ -70,21 +70,11 @@ protected:
 };
 
 // "x": blue and underlined while the mouse is over it, or the focus on it.
-class HrDelLabel : public QPushButton {
+class HrDelLabel : public LinkLabel {
     Q_OBJECT
 public:
     explicit HrDelLabel(QWidget* parent);
-    void Set_Hot(bool value);
-    bool Is_Hot() const { return hot; }
-
-Q_SIGNALS:
-    void Mouse_Over();
 
 protected:
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    bool hot = false;
 };

@@ -1,7 +1,7 @@
 #include "editors/wizard/page_display.h"
 
 #include "controls/chk_box.h"
-#include "editors/wizard/click_label.h"
+#include "controls/click_filter.h"
 #include "editors/wizard/sample_picture.h"
 
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "editors/wizard/page_start.h"
 
+#include "controls/click_filter.h"
 #include "controls/wb_button.h"
 #include "core/date_text.h"
-#include "editors/wizard/click_label.h"
 #include "editors/wizard/wizard_text.h"
 
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "editors/wizard/page_type.h"
 
-#include "editors/wizard/click_label.h"
+#include "controls/click_filter.h"
 
 #include <QLabel>
 
