@@ -11,7 +11,6 @@
 #include "editors/list/reminder_edit.h"
 #include "links/menu/links_menu.h"
 #include "links/store/link_rec.h"
-#include "links/store/links_data.h"
 #include "notes/frm_notes_editor.h"
 #include "notes/notes_store.h"
 #include "platform/system.h"
@@ -123,7 +122,7 @@ double Open_Menu(int links) {
     Global_LinkArray.clear();
     for (int row = 0; row < links; ++row)
         Global_LinkArray.push_back({u"0http://www.example.com/"_s, u"Link %1"_s.arg(row), {}});
-    Load_Global_LinksArray();
+    Update_LinksMenu();
     std::vector<double> times;
     for (int run = 0; run < Runs; ++run) {
         times.push_back(
@@ -184,7 +183,7 @@ int main(int argc, char** argv) {
     Init_TimeRoutines();
     Init_DateText();
     Init_Categories();
-    Init_LinksMenu();
+    Init_LinksMenu({[] {}, [] {}});
 
     Open_List(10); // fonts and pictures of the first window are not the list's
     const double ten = Open_List(10);

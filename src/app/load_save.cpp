@@ -19,7 +19,6 @@
 #include "delivery/options_menu.h"
 #include "links/menu/links_menu.h"
 #include "links/store/link_rec.h"
-#include "links/store/links_data.h"
 #include "notes/notes_store.h"
 #include "notes/open_note.h"
 #include "platform/desktop.h"
@@ -186,16 +185,14 @@ void Application::Place_Textbox() {
 }
 
 void Application::Build_LinksMenu() {
-    Load_Global_LinksArray();
-    Init_LinksMenu(
-        [this] {
-            if (!Program_Is_Ending())
-                mainForm->MouseOver();
-        },
-        [this] {
-            if (!Program_Is_Ending())
-                mainForm->Take_Focus();
-        });
+    Init_LinksMenu({[this] {
+                        if (!Program_Is_Ending())
+                            mainForm->MouseOver();
+                    },
+                    [this] {
+                        if (!Program_Is_Ending())
+                            mainForm->Take_Focus();
+                    }});
 }
 
 void Application::Await_SetupWizard() {

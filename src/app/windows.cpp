@@ -4,6 +4,7 @@
 #include "accessories/setup/setup.h"
 #include "accessories/textbox/frm_textbox.h"
 #include "controls/form.h"
+#include "controls/help_topic.h"
 #include "editors/list/reminder_edit.h"
 #include "editors/wizard/frm_add_reminder_wizard.h"
 #include "editors/wizard/frm_quick_add_reminder.h"
@@ -50,8 +51,10 @@ void Connect_Windows(ToolbarCommands& commands, MainForm& toolbar) {
     for (const auto& row : rows)
         commands.Connect(row.Command, row.Open);
     Connect_LinksMenu(commands, toolbar);
-    Connect_LinkCommands({Show_ReminderEdit, Show_LinksEditor, Show_ProgramSetup, Show_NotesEditor,
-                          Show_SetupWizard, Show_HelpPage});
+    Global_LinkCommands = {Show_ReminderEdit, Show_LinksEditor,
+                           Show_ProgramSetup, Show_NotesEditor,
+                           Show_SetupWizard,  [] {
+                               Show_HelpPage(help_page::Contents); }};
 }
 
 void Store_OpenEdits(WindowsAre windows) {

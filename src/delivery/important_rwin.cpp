@@ -27,17 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-platform::ShowState Show_StateOf(std::uint8_t windowMode) {
-    switch (windowMode) {
-    case 1:
-        return platform::ShowState::Minimized;
-    case 2:
-        return platform::ShowState::Maximized;
-    default:
-        return platform::ShowState::Normal;
-    }
-}
-
 // Nothing for a number that is no entry of the table.
 template <class Entry>
 Entry* Entry_At(std::vector<Entry>& table, std::int32_t index) {
@@ -94,7 +83,7 @@ void frmImportantRWin::wbButton1_Click(int index) {
     const QString target = ActionTarget[static_cast<std::size_t>(index)];
     if (target.isEmpty())
         return;
-    const auto state = Show_StateOf(ActionWindowState[static_cast<std::size_t>(index)]);
+    const auto state = platform::Show_StateOf(ActionWindowState[static_cast<std::size_t>(index)]);
     if (!platform::Shell::Get().Open(target, state))
         platform::Dialogs::Get().Message(u"Can't open "_s + target,
                                          platform::BoxStyle::Exclamation);

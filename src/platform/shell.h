@@ -5,12 +5,20 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <vector>
 
 namespace platform {
 
 // The numbers are the show states of the desktop's open call.
 enum class ShowState { Normal = 1, Minimized = 2, Maximized = 3 };
+
+// What a byte of a record says: 0, 1 and 2 in that order; any other opens normally.
+constexpr ShowState Show_StateOf(std::uint8_t stored) {
+    return stored == 1   ? ShowState::Minimized
+           : stored == 2 ? ShowState::Maximized
+                         : ShowState::Normal;
+}
 
 class Shell : public Service<Shell> {
 public:

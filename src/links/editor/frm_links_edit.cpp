@@ -12,6 +12,7 @@
 #include "links/editor/links_editor.h"
 #include "links/editor/links_list.h"
 #include "links/editor/property_panel.h"
+#include "links/menu/links_menu.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -229,6 +230,7 @@ void frmLinksEdit::wbButton9_Click() {
 void frmLinksEdit::wbButton10_Click() {
     Store_Panel();
     edit.Apply();
+    Update_LinksMenu();
     Say_AtField(wbButton10, u"The menu shows the list now."_s);
 }
 

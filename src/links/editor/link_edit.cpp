@@ -1,7 +1,5 @@
 #include "links/editor/link_edit.h"
 
-#include "links/store/links_data.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -97,7 +95,6 @@ bool LinkEdit::Undo() {
 void LinkEdit::Apply() {
     saved = Global_LinkArray;
     dirty = false;
-    Load_Global_LinksArray();
 }
 
 void LinkEdit::Restore_Saved() {

@@ -39,7 +39,7 @@ public:
     bool Delete();
     bool Undo();
 
-    // The menu shows the list from now on.
+    // The list counts as saved.
     void Apply();
     // The list as it was when last applied; nothing when that is what it is.
     void Restore_Saved();

@@ -1,100 +1,41 @@
 #include "links/menu/link_target.h"
 
 #include "platform/dialogs.h"
-
-#include <array>
-#include <utility>
+#include "platform/shell.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-LinkCommands connectedCommands;
-
-struct CommandRow {
+constexpr struct {
     QLatin1StringView Text;
-    LinkAction Action;
+    std::function<void()> LinkCommands::*Command;
+} CommandTable[] = {
+    {"config:reminder_edit"_L1, &LinkCommands::Reminder_Edit},
+    {"config:links_edit"_L1, &LinkCommands::Links_Edit},
+    {"config:program_setup"_L1, &LinkCommands::Program_Setup},
+    {"config:notes_editor"_L1, &LinkCommands::Notes_Editor},
+    {"config:setup_wizard"_L1, &LinkCommands::Setup_Wizard},
+    {"help:contents"_L1, &LinkCommands::Help_Contents},
 };
 
-constexpr std::array<CommandRow, 7> CommandTable = {{
-    {"config:reminder_edit"_L1, LinkAction::Reminder_Edit},
-    {"config:links_edit"_L1, LinkAction::Links_Edit},
-    {"config:program_setup"_L1, LinkAction::Program_Setup},
-    {"config:notes_editor"_L1, LinkAction::Notes_Editor},
-    {"config:setup_wizard"_L1, LinkAction::Setup_Wizard},
-    {"help:contents"_L1, LinkAction::Help_Contents},
-    {"help:about"_L1, LinkAction::About},
-}};
-
-void Run(const std::function<void()>& command) {
-    if (command)
-        command();
-}
-
-void Show_Help() {
-    const auto help = connectedCommands.Help;
-    if (help)
-        help(u"contents.html"_s);
-}
-
-void Show_About() {
-    platform::Dialogs::Get().Show_Message(u"Tockly\nVersion 1.1"_s,
-                                          {u"About..."_s, platform::BoxStyle::Information});
+bool Is_Command(const QString& url, QLatin1StringView text) {
+    return url.compare(text, Qt::CaseInsensitive) == 0;
 }
 
 } // namespace
 
-void Connect_LinkCommands(LinkCommands commands) {
-    connectedCommands = std::move(commands);
-}
-
-LinkAction Action_Of(const QString& url) {
-    if (url.isEmpty())
-        return LinkAction::Nothing;
-    for (const CommandRow& row : CommandTable) {
-        if (url.compare(row.Text, Qt::CaseInsensitive) == 0)
-            return row.Action;
-    }
-    return url.endsWith(".exe"_L1, Qt::CaseInsensitive) ? LinkAction::Start_Program
-                                                        : LinkAction::Open_Target;
-}
-
-platform::ShowState Show_StateOf(std::uint8_t startSize) {
-    switch (startSize) {
-    case 1:
-        return platform::ShowState::Minimized;
-    case 2:
-        return platform::ShowState::Maximized;
-    default:
-        return platform::ShowState::Normal;
-    }
-}
+LinkCommands Global_LinkCommands;
 
 void Open_Link(const QString& url, std::uint8_t startSize) {
-    // A command may connect others, or end the program.
-    const LinkCommands commands = connectedCommands;
-    switch (Action_Of(url)) {
-    case LinkAction::Nothing:
-        return;
-    case LinkAction::Reminder_Edit:
-        return Run(commands.Reminder_Edit);
-    case LinkAction::Links_Edit:
-        return Run(commands.Links_Edit);
-    case LinkAction::Program_Setup:
-        return Run(commands.Program_Setup);
-    case LinkAction::Notes_Editor:
-        return Run(commands.Notes_Editor);
-    case LinkAction::Setup_Wizard:
-        return Run(commands.Setup_Wizard);
-    case LinkAction::Help_Contents:
-        return Show_Help();
-    case LinkAction::About:
-        return Show_About();
-    case LinkAction::Start_Program:
-        platform::Shell::Get().Start(url, {}, Show_StateOf(startSize));
-        return;
-    case LinkAction::Open_Target:
-        platform::Shell::Get().Open(url, Show_StateOf(startSize));
-        return;
-    }
+    for (const auto& row : CommandTable)
+        if (Is_Command(url, row.Text))
+            return (Global_LinkCommands.*row.Command)();
+    if (Is_Command(url, "help:about"_L1))
+        platform::Dialogs::Get().Show_Message(u"Tockly\nVersion 1.1"_s,
+                                              {u"About..."_s, platform::BoxStyle::Information});
+    else if (url.endsWith(".exe"_L1, Qt::CaseInsensitive))
+        platform::Shell::Get().Start(url, {}, platform::Show_StateOf(startSize));
+    else if (!url.isEmpty())
+        platform::Shell::Get().Open(url, platform::Show_StateOf(startSize));
 }

@@ -11,95 +11,82 @@
 
 namespace {
 
-QPointer<LinksMenuV2> rootMenu;
-std::function<void()> menuGone;
-std::function<void()> focusReturned;
+struct LinksMenu {
+    LinksMenuPorts Ports;
+    MenuLevels Levels; // of the tree as it stands
+    QPointer<LinksMenuV2> Root;
+};
+LinksMenu menu;
 
 // Stops itself; what the root menu led to must not outlive it.
 void Win98HideForms_Tick() {
     Global_Timers->Enable(TimerName::Win98HideForms, false);
-    if (rootMenu)
-        rootMenu->ChidForm_HideAllChilds();
+    if (menu.Root)
+        menu.Root->ChidForm_HideAllChilds();
 }
 
 // One of its handlers may be running.
 void Release_OldMenu() {
-    if (!rootMenu)
+    if (!menu.Root)
         return;
-    const QPointer<LinksMenuV2> old = std::exchange(rootMenu, nullptr);
+    const QPointer<LinksMenuV2> old = std::exchange(menu.Root, nullptr);
     std::erase(Global_PendingUnloads, old);
     old->HideForm();
     if (old)
         old->deleteLater();
 }
 
-void Take_NewTree() {
-    Release_OldMenu();
-    Forget_MenuLevels();
-}
-
-void Tell_MenuGone() {
-    // What is told may register another.
-    const auto gone = menuGone;
-    if (gone)
-        gone();
-}
-
-void Tell_FocusReturned() {
-    if (focusReturned)
-        focusReturned();
-}
-
 bool Has_Rows() {
-    return Global_LinksRoot && (Global_LinksRoot->Get_TotalLinks() != -1 ||
-                                Global_LinksRoot->Get_TotalCategories() != -1);
+    return Global_LinksRoot->Get_TotalLinks() != -1 ||
+           Global_LinksRoot->Get_TotalCategories() != -1;
 }
 
 } // namespace
 
-void Init_LinksMenu(std::function<void()> gone, std::function<void()> returned) {
-    menuGone = std::move(gone);
-    focusReturned = std::move(returned);
-    On_LinksTree_Changed(Take_NewTree);
-    if (Global_Timers != nullptr)
-        Global_Timers->On_Tick(TimerName::Win98HideForms, Win98HideForms_Tick);
+void Init_LinksMenu(LinksMenuPorts ports) {
+    menu = {std::move(ports), {}, {}};
+    Load_Global_LinksArray();
+    Global_Timers->On_Tick(TimerName::Win98HideForms, Win98HideForms_Tick);
+}
+
+void Update_LinksMenu() {
+    Load_Global_LinksArray();
+    Release_OldMenu();
+    menu.Levels = {};
 }
 
 void Open_LinksMenu(MenuOpenedBy how, const QRect& strip) {
     if (!Has_Rows() || Program_Is_Ending())
         return;
-    if (Global_Timers != nullptr && Global_Timers->Is_Enabled(TimerName::UnloadFormsTimer))
+    if (Global_Timers->Is_Enabled(TimerName::UnloadFormsTimer))
         UnloadFormsTimer_Tick();
     Release_OldMenu();
-    rootMenu = new LinksMenuV2(how, strip);
-    QObject::connect(rootMenu, &LinksMenuV2::Menu_Gone, Tell_MenuGone);
-    QObject::connect(rootMenu, &LinksMenuV2::Focus_Returned, Tell_FocusReturned);
+    menu.Root = new LinksMenuV2(how, strip, menu.Levels);
+    QObject::connect(menu.Root, &LinksMenuV2::Menu_Gone, [] { menu.Ports.Gone(); });
+    QObject::connect(menu.Root, &LinksMenuV2::Focus_Returned, [] { menu.Ports.FocusReturned(); });
     // A button pressed on the toolbar, and AutoHide, send away what stands in this list.
-    Global_PendingUnloads.emplace_back(rootMenu);
-    rootMenu->LoadLinksData(Global_LinksRoot);
-    rootMenu->move(Place_RootMenu(strip, rootMenu->Level_Size(), Screen_At(strip.center())));
-    rootMenu->ShowForm();
+    Global_PendingUnloads.emplace_back(menu.Root);
+    menu.Root->LoadLinksData(Global_LinksRoot);
+    menu.Root->move(Place_RootMenu(strip, menu.Root->Level_Size(), Screen_At(strip.center())));
+    menu.Root->ShowForm();
 }
 
 bool LinksMenu_Visible() {
-    return rootMenu && rootMenu->isVisible();
+    return menu.Root && menu.Root->isVisible();
 }
 
 void Hide_LinksMenu() {
-    if (rootMenu)
-        rootMenu->HideForm();
+    if (menu.Root)
+        menu.Root->HideForm();
 }
 
 void Unload_LinksMenu() {
-    On_LinksTree_Changed({});
-    menuGone = {};
-    focusReturned = {};
-    if (Global_Timers != nullptr)
-        Global_Timers->On_Tick(TimerName::Win98HideForms, {});
-    delete rootMenu.data();
-    Forget_MenuLevels();
+    menu.Ports = {[] {}, [] {}}; // nobody is there to hear of it
+    Global_Timers->On_Tick(TimerName::Win98HideForms, {});
+    delete menu.Root.data();
+    menu.Levels = {};
 }
 
 LinksMenuV2* Current_RootMenu() {
-    return rootMenu;
+    return menu.Root;
 }

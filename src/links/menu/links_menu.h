@@ -7,10 +7,16 @@
 
 #include <functional>
 
-// At the start, once the timers stand. gone: the menu has left the view (the toolbar's button
-// comes up again).
-// focusReturned: a menu that held the keyboard focus hands it back.
-void Init_LinksMenu(std::function<void()> gone = {}, std::function<void()> focusReturned = {});
+// What it tells the application.
+struct LinksMenuPorts {
+    std::function<void()> Gone;          // it has left the view: the toolbar's button comes up
+    std::function<void()> FocusReturned; // one that held the keyboard focus hands it back
+};
+
+// At the start, once the timers stand: no menu is open, and the tree of the links is built.
+void Init_LinksMenu(LinksMenuPorts ports);
+// The links have changed: an open menu goes at once, and the next one shows them.
+void Update_LinksMenu();
 // Shows the menu at the toolbar (strip: its bounds, screen pixels); nothing when there is neither a
 // link nor a category. Opened by keyboard it takes the focus.
 void Open_LinksMenu(MenuOpenedBy how, const QRect& strip);

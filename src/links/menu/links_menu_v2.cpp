@@ -30,10 +30,10 @@ Qt::WindowFlags Menu_Flags(MenuOpenedBy how) {
 
 } // namespace
 
-LinksMenuV2::LinksMenuV2(MenuOpenedBy how, const QRect& toolbarStrip)
+LinksMenuV2::LinksMenuV2(MenuOpenedBy how, const QRect& toolbarStrip, MenuLevels& known)
     : QWidget(nullptr, Menu_Flags(how)), IsMainForm(true),
-      UseTransparencyOnThisForm(Global_UseTransparency), strip(Bounds_Of(toolbarStrip)),
-      openedBy(how) {
+      UseTransparencyOnThisForm(Global_UseTransparency), levels(known),
+      strip(Bounds_Of(toolbarStrip)), openedBy(how) {
     Build_Window();
 }
 
@@ -41,7 +41,7 @@ LinksMenuV2::LinksMenuV2(MenuOpenedBy how, const QRect& toolbarStrip)
 LinksMenuV2::LinksMenuV2(LinksMenuV2& parent)
     : QWidget(nullptr, Menu_Flags(MenuOpenedBy::Mouse)),
       UseTransparencyOnThisForm(parent.UseTransparencyOnThisForm), ParentForm(&parent),
-      strip(parent.strip), openedBy(parent.openedBy) {
+      levels(parent.levels), strip(parent.strip), openedBy(parent.openedBy) {
     Build_Window();
 }
 
@@ -68,7 +68,7 @@ void LinksMenuV2::Build_Window() {
 }
 
 void LinksMenuV2::LoadLinksData(const std::shared_ptr<LinksData>& links) {
-    level = Level_Of(links);
+    level = levels.Level_Of(links);
     Take_Size();
 }
 
@@ -122,7 +122,7 @@ void LinksMenuV2::ShowForm() {
     } else {
         Global_Transparency().DeleteHWNDfromList(winId(), Layering::Remove, FadeEnd::KeepForm);
         show();
-        if (IsMainForm && Global_Timers != nullptr)
+        if (IsMainForm)
             Global_Timers->Enable(TimerName::Win98HideForms, false);
     }
     windows.Set_Topmost(winId(), true);
@@ -147,7 +147,7 @@ void LinksMenuV2::HideForm() {
     hide();
     if (!IsMainForm || !wasShown)
         return;
-    if (!Fades_Here() && Global_Timers != nullptr && !Program_Is_Ending())
+    if (!Fades_Here() && !Program_Is_Ending())
         Global_Timers->Enable(TimerName::Win98HideForms);
     Q_EMIT Menu_Gone();
 }

@@ -29,7 +29,8 @@ class LinksMenuV2 : public QWidget, public FadeWorkForm {
     Q_OBJECT
 public:
     // A root form. strip: the toolbar, screen pixels; a mouse over it has not left the menu.
-    LinksMenuV2(MenuOpenedBy how, const QRect& strip);
+    // levels: of the tree that it shows; they outlive it.
+    LinksMenuV2(MenuOpenedBy how, const QRect& strip, MenuLevels& levels);
     ~LinksMenuV2() override;
 
     // Fills the form, once.
@@ -132,6 +133,7 @@ private:
     bool AvoidFadeOut = false;
     QPointer<LinksMenuV2> ChildForm;
     QPointer<LinksMenuV2> ParentForm;
+    MenuLevels& levels;
     std::shared_ptr<const MenuLevel> level = std::make_shared<MenuLevel>();
     std::map<int, std::unique_ptr<LinksMenuV2>> children; // by their rows, once opened
     MenuBounds screenRect;                                // when it was shown

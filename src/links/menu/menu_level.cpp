@@ -6,14 +6,9 @@
 
 #include <QFontMetrics>
 
-#include <map>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// By the level itself, so that its address is not used again meanwhile.
-std::map<std::shared_ptr<LinksData>, std::shared_ptr<const MenuLevel>> knownLevels;
 
 void Add_Categories(MenuLevel& level, const LinksData& links) {
     for (std::int32_t i = 0; i <= links.Get_TotalCategories(); ++i) {
@@ -53,20 +48,16 @@ QFont Menu_HeaderFont() {
     return bold;
 }
 
-std::shared_ptr<const MenuLevel> Level_Of(const std::shared_ptr<LinksData>& links) {
-    std::shared_ptr<const MenuLevel>& known = knownLevels[links];
-    if (known == nullptr) {
+std::shared_ptr<const MenuLevel> MenuLevels::Level_Of(const std::shared_ptr<LinksData>& links) {
+    std::shared_ptr<const MenuLevel>& one = known[links];
+    if (one == nullptr) {
         auto level = std::make_shared<MenuLevel>();
         Add_Categories(*level, *links);
         Add_Links(*level, *links);
         const int widest = Widest_CaptionOf(level->Captions, QFontMetrics(Small_Font()));
         level->Layout =
             Lay_OutMenu(level->Kinds, widest, level->Kinds.empty() ? 0 : Widest_Header(*links));
-        known = std::move(level);
+        one = std::move(level);
     }
-    return known;
-}
-
-void Forget_MenuLevels() {
-    knownLevels.clear();
+    return one;
 }

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,12 @@ inline const QString CategoriesText = QStringLiteral("Categories");
 inline const QString LinksText = QStringLiteral("Links");
 QFont Menu_HeaderFont();
 
-std::shared_ptr<const MenuLevel> Level_Of(const std::shared_ptr<LinksData>& links);
-// The tree has gone.
-void Forget_MenuLevels();
+// The levels of a tree that have been opened.
+class MenuLevels {
+public:
+    std::shared_ptr<const MenuLevel> Level_Of(const std::shared_ptr<LinksData>& links);
+
+private:
+    // By the level itself, so that its address is not used again meanwhile.
+    std::map<std::shared_ptr<LinksData>, std::shared_ptr<const MenuLevel>> known;
+};

@@ -15,8 +15,6 @@ namespace {
 constexpr std::size_t Levels = 11; // depths 0 to 10
 const QString ErrorText = u"- Error - "_s;
 
-std::function<void()> treeObserver;
-
 // What a digit says, as far as levels are there to take it.
 std::size_t Depth_Of(QChar digit, std::size_t deepest) {
     const int value = digit.digitValue();
@@ -93,10 +91,4 @@ void Load_Global_LinksArray() {
         stack[depth]->Add_Category(row.LinkName, serial++, stack[depth + 1]);
         deepest = std::max(deepest, depth + 1);
     }
-    if (treeObserver)
-        treeObserver();
-}
-
-void On_LinksTree_Changed(std::function<void()> observer) {
-    treeObserver = std::move(observer);
 }

@@ -4,7 +4,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -47,5 +46,3 @@ extern std::shared_ptr<LinksData> Global_LinksRoot;
 // Builds the tree from the user's rows and, behind them, the program's own. A row deeper than the
 // tree goes reaches the deepest level there is.
 void Load_Global_LinksArray();
-// Who shows the tree (the menu) is told of each new one. One observer; an empty one takes it off.
-void On_LinksTree_Changed(std::function<void()> observer);

@@ -4,6 +4,7 @@
 #include "links/editor/frm_links_edit.h"
 #include "links/editor/links_editor.h"
 #include "links/editor/links_list.h"
+#include "links/menu/links_menu.h"
 #include "links/store/links_data.h"
 #include "support/fake_system.h"
 #include "support/form_driver.h"
@@ -27,12 +28,12 @@ protected:
                             {u"@1Category"_s, u"D"_s, {}, 0},
                             {u"0-"_s, u"e"_s, {}, 0},
                             {{}, u"behind the end"_s, {}, 0}};
-        On_LinksTree_Changed([this] { ++trees; });
+        Update_LinksMenu();
+        tree = Global_LinksRoot;
         Open();
     }
     ~LinksEditor() override {
         Set_Program_Ending(false);
-        On_LinksTree_Changed({});
         Release_Forms();
         Global_PendingUnloads.clear();
         Global_LinkArray.clear();
@@ -70,7 +71,7 @@ protected:
 
     const QString Start = u"0http://a=a, @0Category=B, 1c:\\c.EXE=c, @1Category=D, 0-=e"_s;
     FakeSystem system;
-    int trees = 0;
+    std::shared_ptr<LinksData> tree; // that the menu shows from the start
     QPointer<frmLinksEdit> form;
     LinksList* list = nullptr;
 };
@@ -200,11 +201,11 @@ TEST_F(LinksEditor, Closing_asks_only_about_a_changed_list_and_No_brings_the_old
     form->close();
     EXPECT_TRUE(form->Is_Unloading());
     EXPECT_EQ(Rows(), Start);
-    EXPECT_EQ(trees, 0);
+    EXPECT_EQ(Global_LinksRoot, tree);
     Open();
     Click(u"Add link"_s);
     Click(u"Apply"_s);
-    EXPECT_EQ(trees, 1);
+    EXPECT_EQ(Global_LinksRoot->Get_TotalLinks(), tree->Get_TotalLinks() + 1);
     form->close(); // asks nothing
     EXPECT_EQ(Rows(), Start + u", 0http://=New Link"_s);
 }
@@ -224,7 +225,7 @@ TEST_F(LinksEditor, The_end_of_the_program_takes_the_list_as_it_stands) {
     Type(u"Title"_s, u"in its field"_s);
     EXPECT_TRUE(form->Unload(UnloadMode::Ending)); // asks nothing
     EXPECT_EQ(Rows(), u"0http://a=in its field"_s + changed.mid(11));
-    EXPECT_EQ(trees, 0);
+    EXPECT_EQ(Global_LinksRoot, tree);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The commands of the links editor.
 #include "links/editor/link_edit.h"
-#include "links/store/links_data.h"
+#include "links/store/link_rec.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>
@@ -90,7 +90,6 @@ TEST(LinkOperations, A_command_moves_its_row_with_all_that_is_in_it) {
         const auto row = &one - cases;
         EXPECT_EQ(one.Done(edit), !one.Result.isEmpty()) << row;
         EXPECT_EQ(Text_Of(edit.Rows()), one.Result.isEmpty() ? list : one.Result) << row;
-        Load_Global_LinksArray();
     }
 }
 
@@ -113,7 +112,6 @@ TEST(LinkOperations, Fifty_changes_are_taken_back_one_by_one) {
             ASSERT_EQ(edit.Rows(), history[history.size() - 1 - undone]);
         }
         EXPECT_FALSE(edit.Undo());
-        Load_Global_LinksArray();
     }
 }
 
@@ -136,7 +134,6 @@ TEST(LinkOperations, Rows_as_any_file_may_bring_them_are_moved_without_loss) {
         for (const LinkRec& row : edit.Rows())
             names.insert(row.LinkName);
         ASSERT_TRUE(names.size() == 9 && edit.Count() == 9) << "round " << round;
-        Load_Global_LinksArray();
     }
 }
 

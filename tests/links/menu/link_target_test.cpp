@@ -12,10 +12,9 @@ protected:
         const auto note = [this](const char* name) {
             return [this, name] { done.append(QLatin1StringView(name)); };
         };
-        Connect_LinkCommands({note("reminders"), note("links"), note("setup"), note("notes"),
-                              note("wizard"), [this](const QString& page) { done += page; }});
+        Global_LinkCommands = {note("reminders"), note("links"),  note("setup"),
+                               note("notes"),     note("wizard"), note("help")};
     }
-    ~LinkTarget() override { Connect_LinkCommands({}); }
 
     FakeSystem system;
     QStringList done;
@@ -25,7 +24,7 @@ TEST_F(LinkTarget, A_command_in_any_case_is_done_by_the_program) {
     const std::pair<QString, QString> commands[] = {
         {u"config:Reminder_Edit"_s, u"reminders"_s}, {u"CONFIG:LINKS_EDIT"_s, u"links"_s},
         {u"config:program_setup"_s, u"setup"_s},     {u"Config:Notes_Editor"_s, u"notes"_s},
-        {u"config:setup_WIZARD"_s, u"wizard"_s},     {u"Help:Contents"_s, u"contents.html"_s}};
+        {u"config:setup_WIZARD"_s, u"wizard"_s},     {u"Help:Contents"_s, u"help"_s}};
     for (const auto& [text, command] : commands) {
         done.clear();
         Open_Link(text, 0);

@@ -4,7 +4,6 @@
 #include "controls/unload_queue.h"
 #include "links/menu/links_menu.h"
 #include "links/store/link_rec.h"
-#include "links/store/links_data.h"
 #include "settings/global_settings.h"
 #include "support/fake_system.h"
 
@@ -40,8 +39,7 @@ protected:
         Add(u"0-"_s, u"-------------"_s);
         Add(u"0tool.exe"_s, u"Tool"_s, {}, 2);
         Global_DefaultLinkArray.clear();
-        Load_Global_LinksArray();
-        Init_LinksMenu([this] { ++gone; });
+        Init_LinksMenu({[this] { ++gone; }, [] {}});
     }
     ~LinksMenu() override {
         Unload_LinksMenu();
@@ -161,12 +159,12 @@ TEST_F(LinksMenu, A_link_is_opened_once_the_whole_menu_has_gone) {
     // Under the box the tree is built anew and its events run, then the program ends.
     Global_LinkArray.clear();
     Add(u"0help:about"_s, u"About"_s);
-    Load_Global_LinksArray();
+    Update_LinksMenu();
     system.dialogs.Expect_Message(u"Tockly\nVersion 1.1"_s, platform::BoxStyle::Information,
                                   u"About..."_s);
     system.dialogs.whileOpen = [&](const auto&) {
         EXPECT_FALSE(LinksMenu_Visible());
-        Load_Global_LinksArray();
+        Update_LinksMenu();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Set_Program_Ending(true);
     };
@@ -198,7 +196,7 @@ TEST_F(LinksMenu, With_fades_a_child_goes_slowly_and_can_be_called_back) {
     EXPECT_TRUE(LinksMenu_Visible() && gone == 0);
     // The list is applied in the middle of the fade.
     Fade(100);
-    Load_Global_LinksArray();
+    Update_LinksMenu();
     EXPECT_EQ(gone, 1);
     EXPECT_EQ(Global_Transparency().Last_Index(), -1);
     EXPECT_FALSE(timers.Is_Enabled(TimerName::Win98HideForms));
@@ -214,7 +212,7 @@ TEST_F(LinksMenu, New_links_a_press_on_the_toolbar_and_an_empty_list_close_it) {
     root = Open();
     Click(root, 0);
     Global_LinkArray = {};
-    Load_Global_LinksArray();
+    Update_LinksMenu();
     EXPECT_FALSE(LinksMenu_Visible());
     EXPECT_EQ(gone, 2);
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -253,7 +251,7 @@ TEST_F(LinksMenu, Of_a_level_longer_than_the_screen_every_row_can_be_reached) {
     for (int i = 0; i < 2000; ++i)
         Add(u"0http://%1"_s.arg(i), u"Link %1"_s.arg(i));
     Global_LinkArray.back().LinkName = QString(3000, u'W'); // nor is it wider than the screen
-    Load_Global_LinksArray();
+    Update_LinksMenu();
     LinksMenuV2* root = Open(MenuOpenedBy::Keyboard);
     EXPECT_EQ(root->width(), 1280);
     EXPECT_EQ(root->Level_Size().height(), 2 + 24 * 2001 + 2);

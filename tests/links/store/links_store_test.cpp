@@ -19,7 +19,6 @@ protected:
     ~LinksStore() override {
         Global_LinkArray.clear();
         Global_DefaultLinkArray.clear();
-        On_LinksTree_Changed({});
     }
     std::string Saved() {
         EXPECT_TRUE(Save_Links_File(file));
