@@ -117,6 +117,20 @@ QString Plain_Text(const QPlainTextEdit& field) {
     return With_PlainLineEnds(field.document()->toRawText());
 }
 
+QString Text_ForBox(const QString& recordText) {
+    QString text = recordText;
+    return With_PlainLineEnds(text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n'));
+}
+
+QString Text_ForRecord(const QString& boxText) {
+    QString text = boxText;
+    return text.replace("\n"_L1, "\r\n"_L1);
+}
+
+QString Text_ForRecord(const QString& boxText, const QString& recordText) {
+    return boxText == Text_ForBox(recordText) ? recordText : Text_ForRecord(boxText);
+}
+
 void Limit_Field(QLineEdit* field, std::function<bool(const QString& text)> fits,
                  const QString& word) {
     // One in characters would cut what is pasted.

@@ -47,6 +47,12 @@ private:
 // The text with its lines ended by LF.
 QString Plain_Text(const QPlainTextEdit& field);
 
+// A box breaks lines with LF, a record with CR LF.
+QString Text_ForBox(const QString& recordText);
+QString Text_ForRecord(const QString& boxText);
+// A text that was not edited stays as it was, whatever breaks its lines.
+QString Text_ForRecord(const QString& boxText, const QString& recordText);
+
 // The field takes no text of which "fits" says no, and then says the word.
 void Limit_Field(QLineEdit* field, std::function<bool(const QString& text)> fits,
                  const QString& word = Too_Long_Word());

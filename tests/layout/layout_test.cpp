@@ -31,6 +31,7 @@
 #include "notes/frm_notes_editor.h"
 #include "settings/global_settings.h"
 #include "support/fake_system.h"
+#include "support/form_driver.h"
 #include "toolbar/main_form.h"
 
 #include <QApplication>
@@ -68,14 +69,6 @@ protected:
             }
         }
     }
-    template <class T>
-    static T* Find(const QString& name) {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* found = window->isVisible() ? window->findChild<T*>(name) : nullptr)
-                return found;
-        ADD_FAILURE() << "no " << qPrintable(name);
-        return nullptr;
-    }
     static wbButton* Button(const QString& caption) {
         for (QWidget* window : QApplication::topLevelWidgets())
             for (auto* button : window->findChildren<wbButton*>())
@@ -105,23 +98,28 @@ protected:
 
 TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_the_wizard) {
     Show_AddReminderWizard();
-    for (int type = 0; type < WizardTypeCount; ++type) {
-        SCOPED_TRACE(type);
-        Find<QRadioButton>(u"Option2_%1"_s.arg(type))->click();
+    const QString types[] = {u"Exact date:"_s,  u"Every day:"_s,    u"Weekday:"_s,
+                             u"Every month:"_s, u"Every X days:"_s, u"Birthday:"_s};
+    const auto Tick = [](const QString& box) {
+        if (!Find<ChkBox>(box)->Is_Ticked())
+            Find<ChkBox>(box)->Toggle();
+    };
+    for (const QString& type : types) {
+        SCOPED_TRACE(type.toStdString());
+        Find<QRadioButton>(type)->click();
         for (int page = 0; page < WizardPageCount; ++page) {
             Look(u"type %1, page %2"_s.arg(type).arg(page));
-            if (page == int(WizardPage::Date) && type == int(WizardType::Weekday) &&
-                !Find<ChkBox>(u"Check1_2"_s)->Is_Ticked())
-                Find<ChkBox>(u"Check1_2"_s)->Toggle();
-            if (page == int(WizardPage::Time) && !Find<ChkBox>(u"Check3_1"_s)->Is_Ticked())
-                Find<ChkBox>(u"Check3_1"_s)->Toggle();
+            if (page == int(WizardPage::Date) && type == u"Weekday:"_s)
+                Tick(u"Wednesday"_s);
+            if (page == int(WizardPage::Time))
+                Tick(u"At time 2"_s);
             if (page == int(WizardPage::DisplayMode))
-                for (int mode = 2; mode >= 0; --mode) {
-                    Find<QRadioButton>(u"Option3_%1"_s.arg(mode))->click();
+                for (const QString& mode : {u"Very important:"_s, u"Important:"_s, u"Normal:"_s}) {
+                    Find<QRadioButton>(mode)->click();
                     Look(u"display mode"_s);
                 }
             if (page == int(WizardPage::Message))
-                Find<QPlainTextEdit>(u"Text5"_s)->setPlainText(u"Pay the rent"_s);
+                Find<QPlainTextEdit>(u"Reminder message"_s)->setPlainText(u"Pay the rent"_s);
             if (page + 1 < WizardPageCount)
                 Press(u"Next >"_s);
         }
@@ -160,7 +158,7 @@ TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_the_list_window) {
 TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_the_other_editors) {
     Show_QuickAdd();
     Look(u"quick add"_s);
-    QTest::mouseClick(Find<wbButton>(u"wbButton2"_s), Qt::LeftButton);
+    Click_On<wbButton>(u"Open calendar..."_s);
     Look(u"calendar"_s);
     Show_NotesEditor();
     Look(u"notes"_s);

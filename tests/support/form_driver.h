@@ -18,18 +18,24 @@ Window* Open_Window() {
     return nullptr;
 }
 
-// In the window, or in all on view; also one on a page that is not. Nothing when there is none.
+// In the window, or in all on view; one on a page that is not where none is seen. Nothing when
+// there is none.
 template <class Control>
 Control* Look_For(const QString& name, const QWidget* window = nullptr) {
     const QWidgetList all = window == nullptr ? QApplication::topLevelWidgets() : QWidgetList();
     for (const QWidget* top : all)
         if (Control* found = top->isVisible() ? Look_For<Control>(name, top) : nullptr)
             return found;
-    if (window != nullptr)
-        for (Control* control : window->findChildren<Control*>())
-            if (Spoken_Name(control) == name)
-                return control;
-    return nullptr;
+    Control* unseen = nullptr;
+    const auto inside = window == nullptr ? QList<Control*>() : window->findChildren<Control*>();
+    for (Control* control : inside) {
+        if (Spoken_Name(control) != name)
+            continue;
+        if (control->isVisible())
+            return control;
+        unseen = unseen == nullptr ? control : unseen;
+    }
+    return unseen;
 }
 
 template <class Control>
@@ -47,11 +53,13 @@ void Click_On(const QString& name, const QWidget* window = nullptr) {
 }
 
 // In the place of what the field holds.
-inline void Type_Into(QLineEdit* field, const QString& text) {
+inline void Type_Into(QWidget* field, const QString& text) {
     field->setFocus();
-    field->selectAll();
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(field, Qt::Key_Delete);
-    QTest::keyClicks(field, text);
+    for (const QChar letter : text)
+        letter == u'\n' ? QTest::keyClick(field, Qt::Key_Return)
+                        : QTest::keyClicks(field, QString(letter));
 }
 
 inline void Keys_To(QWidget* widget, std::initializer_list<Qt::Key> keys) {

@@ -3,6 +3,7 @@
 #include "core/date_text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -10,7 +11,14 @@ constexpr int OfferedAhead = 5;
 constexpr int Gap = 4; // pixels between the anchor and the window
 constexpr qsizetype YearDigits = 6;
 
+constexpr std::array<const char16_t*, CalendarColumns> weekdayNames{
+    u"Monday", u"Tuesday", u"Wednesday", u"Thursday", u"Friday", u"Saturday", u"Sunday"};
+
 } // namespace
+
+QString Weekday_Name(int weekday) {
+    return QString::fromUtf16(weekdayNames[static_cast<std::size_t>(weekday)]);
+}
 
 bool Is_CalendarMonth(int month, int year) {
     return month >= 1 && month <= 12 && DateToDay(1, month, year) != NoDay;

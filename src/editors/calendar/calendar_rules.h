@@ -11,6 +11,8 @@ constexpr int CalendarColumns = 7; // Monday first
 constexpr int FirstCalendarYear = 2000;
 constexpr int LastTypedYear = 2099;
 
+// In English, 0 = Monday.
+QString Weekday_Name(int weekday);
 // Month 1..12 of a year that has Days.
 bool Is_CalendarMonth(int month, int year);
 // Whether the box of years may go from the year on view to this one.

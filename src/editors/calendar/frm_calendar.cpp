@@ -33,10 +33,6 @@ constexpr int LabelsTop = 36;
 constexpr int GridTop = 52;
 constexpr int ButtonHeight = 24;
 
-const std::array<QLatin1String, CalendarColumns> dayNames{
-    "Monday"_L1, "Tuesday"_L1,  "Wednesday"_L1, "Thursday"_L1,
-    "Friday"_L1, "Saturday"_L1, "Sunday"_L1};
-
 } // namespace
 
 frmCalendar::frmCalendar(QWidget* owner) : Form(owner) {
@@ -60,8 +56,8 @@ void frmCalendar::Build_Controls() {
     DaysLabel = new DayGrid(CalendarRows, this);
     DaysLabel->move(Margin, GridTop);
     for (int i = 0; i < CalendarColumns; ++i) {
-        QLabel* label = Add_Label(dayNames[static_cast<std::size_t>(i)].left(2),
-                                  Margin + i * DayGrid::ColumnPitch, LabelsTop);
+        QLabel* label =
+            Add_Label(Weekday_Name(i).left(2), Margin + i * DayGrid::ColumnPitch, LabelsTop);
         label->setFixedWidth(DayGrid::ColumnPitch);
         label->setAlignment(Qt::AlignHCenter);
     }
@@ -96,7 +92,7 @@ void frmCalendar::UpdateCalendar(int Month, int Year) {
     const int first = First_DayCell(Month, Year);
     DaysLabel->Set_Days(first, Days_OfMonth(Month, Year), [&](int day) {
         const int weekday = (first + day - 1) % CalendarColumns;
-        return u"%1, %2 %3 %4"_s.arg(dayNames[static_cast<std::size_t>(weekday)])
+        return u"%1, %2 %3 %4"_s.arg(Weekday_Name(weekday))
             .arg(day)
             .arg(Combo1->currentText())
             .arg(Year);

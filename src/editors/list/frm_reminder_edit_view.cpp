@@ -1,4 +1,5 @@
 // The road of a record into the pages and back.
+#include "controls/text_fields.h"
 #include "core/categories.h"
 #include "editors/list/card_list.h"
 #include "editors/list/frm_re_function_edit.h"

@@ -87,21 +87,6 @@ bool Is_SampleText(const QString& text) {
     return text.isEmpty() || text == "..."_L1 || Same_Text(text, u"insert text here"_s);
 }
 
-QString Text_ForBox(const QString& recordText) {
-    QString text = recordText;
-    text.replace("\r\n"_L1, "\n"_L1);
-    return text.replace(u'\r', u'\n')
-        .replace(QChar::ParagraphSeparator, u'\n')
-        .replace(QChar::LineSeparator, u'\n');
-}
-
-QString Text_ForRecord(const QString& boxText, const QString& recordText) {
-    if (boxText == Text_ForBox(recordText))
-        return recordText;
-    QString text = boxText;
-    return text.replace("\n"_L1, "\r\n"_L1);
-}
-
 ReminderRef Add_New_Reminder(const QString& category) {
     auto reminder = std::make_unique<ReminderClass>();
     reminder->SetDefaultValues();

@@ -34,10 +34,6 @@ QString Category_OfPasted(const QString& filter);
 
 // A text that only stands for one still to be typed.
 bool Is_SampleText(const QString& text);
-// A box breaks lines with LF, a record with CR LF. A text that was not edited stays as it was,
-// whatever breaks its lines.
-QString Text_ForBox(const QString& recordText);
-QString Text_ForRecord(const QString& boxText, const QString& recordText);
 
 // A used reminder with a new number and default values.
 ReminderRef Add_New_Reminder(const QString& category);

@@ -1,5 +1,7 @@
 #include "editors/pages/page_controls.h"
 
+#include "controls/combo_box.h"
+#include "controls/combo_name.h"
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/text_fields.h"
@@ -57,6 +59,18 @@ void pages::Set_UpField(QLineEdit* field, const QString& name, const QRect& plac
 void pages::Show_Text(QLineEdit* field, const QString& text) {
     if (field->text() != text)
         field->setText(text);
+}
+
+ComboBox* pages::Add_CategoryBox(QWidget* parent, const QRect& place, QLabel* label) {
+    auto* box = new ComboBox(parent);
+    box->setFont(Small_Font());
+    box->setEditable(true);
+    box->setCompleter(nullptr);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setGeometry(place);
+    Limit_ToStoredText(box->lineEdit());
+    Name_Combo(box, u"Category"_s, label);
+    return box;
 }
 
 Shape::Shape(const QRect& place, const Look& shown, QWidget* parent)

@@ -11,6 +11,7 @@
 
 #include <optional>
 
+class ComboBox;
 class QLabel;
 class wbButton;
 
@@ -29,6 +30,8 @@ wbButton* Add_Button(const QString& caption, const QRect& place, QWidget* parent
 void Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength);
 // Leaves the cursor where it is when the text is there already.
 void Show_Text(QLineEdit* field, const QString& text);
+// For the name of a category, taken as it is typed. label: the text before it, if one is seen.
+ComboBox* Add_CategoryBox(QWidget* parent, const QRect& place, QLabel* label = nullptr);
 } // namespace pages
 
 // A rectangle without input: a group's frame, a highlight behind it, or a mark around a field.

@@ -5,20 +5,11 @@
 #include "controls/icons.h"
 #include "controls/metrics.h"
 #include "controls/one_window.h"
+#include "controls/page_parts.h"
 #include "controls/painting.h"
 #include "controls/toolbar.h"
 #include "controls/wb_button.h"
 #include "core/categories.h"
-#include "core/date_text.h"
-#include "editors/wizard/page_date.h"
-#include "editors/wizard/page_display.h"
-#include "editors/wizard/page_finished.h"
-#include "editors/wizard/page_message.h"
-#include "editors/wizard/page_misc.h"
-#include "editors/wizard/page_start.h"
-#include "editors/wizard/page_time.h"
-#include "editors/wizard/page_type.h"
-#include "editors/wizard/wizard_text.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,7 +18,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using namespace page_parts;
 
 namespace {
 
@@ -42,6 +32,7 @@ constexpr QSize StepSize(107, 20);
 constexpr QSize StepPitch(112, 24);
 constexpr int LineTop = 341;
 constexpr int ButtonTop = 349;
+constexpr int ButtonHeight = 24;
 constexpr int NextWidth = 90;
 constexpr QSize TitlePicture(32, 32);
 
@@ -84,65 +75,62 @@ void frmAddReminderWizard::Build_SideList() {
             u"%1- %2"_s.arg(i + 1).arg(WizardPage_Name(static_cast<WizardPage>(i)));
         QLabel* step = Add_Label(caption, PageLeft + i % StepsInRow * StepPitch.width(),
                                  StepsTop + i / StepsInRow * StepPitch.height());
-        step->setObjectName(u"Label3_%1"_s.arg(i));
         step->setFixedSize(StepSize);
         step->setIndent(6);
         step->setAutoFillBackground(true);
-        Label3[static_cast<std::size_t>(i)] = step;
+        steps[static_cast<std::size_t>(i)] = step;
     }
 }
 
 void frmAddReminderWizard::Build_Pages() {
-    PagesPicBox = {new WizardTypePage(state, this),    new WizardDatePage(state, this),
-                   new WizardTimePage(state, this),    new WizardDisplayPage(state, this),
-                   new WizardMessagePage(state, this), new WizardMiscPage(state, this),
-                   new WizardStartPage(state, this),   new WizardFinishedPage(state, this)};
-    for (WizardPageView* page : PagesPicBox) {
+    pageViews = {Make_TypePage(state, this),    Make_DatePage(state, this),
+                 Make_TimePage(state, this),    Make_DisplayPage(state, this),
+                 Make_MessagePage(state, this), Make_MiscPage(state, this),
+                 Make_StartPage(state, this),   Make_FinishedPage(state, this)};
+    for (WizardPageView* page : pageViews) {
         page->move(PageLeft, PageTop);
-        connect(page, &WizardPageView::CalendarAsked, this, [this] { Open_Calendar(); });
+        connect(page, &WizardPageView::Calendar_Asked, this, &frmAddReminderWizard::Open_Calendar);
     }
 }
 
 void frmAddReminderWizard::Build_Buttons() {
     Add_Label(help_page::Hint, PageLeft, ButtonTop + 6);
     const int right = PageLeft + WizardPageView::Width;
-    wbButton3[0] = Add_Button(this, u"wbButton3_0"_s, u"< Previous"_s,
-                              {right - 2 * NextWidth - 6, ButtonTop, NextWidth, ButtonHeight});
-    wbButton3[1] = Add_Button(this, u"wbButton3_1"_s, u"Next >"_s,
-                              {right - NextWidth, ButtonTop, NextWidth, ButtonHeight});
-    connect(wbButton3[0], &wbButton::Click, this, &frmAddReminderWizard::Previous_Click);
-    connect(wbButton3[1], &wbButton::Click, this, &frmAddReminderWizard::Next_Click);
+    previous = Add_Button(this, u"< Previous"_s,
+                          {right - 2 * NextWidth - 6, ButtonTop, NextWidth, ButtonHeight});
+    next = Add_Button(this, u"Next >"_s, {right - NextWidth, ButtonTop, NextWidth, ButtonHeight});
+    connect(previous, &wbButton::Click, this, &frmAddReminderWizard::Previous_Click);
+    connect(next, &wbButton::Click, this, &frmAddReminderWizard::Next_Click);
 }
 
 WizardPageView* frmAddReminderWizard::Page(WizardPage page) const {
-    return PagesPicBox[static_cast<std::size_t>(page)];
+    return pageViews[static_cast<std::size_t>(page)];
 }
 
 void frmAddReminderWizard::Show_Page(WizardPage page) {
-    wbButton3[0]->setEnabled(page != WizardPage::Type);
-    wbButton3[1]->Set_Caption(page == WizardPage::Finished ? u"Finish"_s : u"Next >"_s);
-    for (const auto& calendar : {frmCalendarCopy, FrmCalendarCopy2, FrmCalendarCopy3})
-        if (calendar)
-            calendar->Unload();
-    Page(page)->Show_State();
+    previous->setEnabled(page != WizardPage::Type);
+    next->Set_Caption(page == WizardPage::Finished ? u"Finish"_s : u"Next >"_s);
+    if (calendar)
+        calendar->Unload();
+    Page(page)->Load();
     Page(page)->show();
     if (page != CurrentPage)
         Page(CurrentPage)->hide();
     CurrentPage = page;
     Mark_Step(page);
     QWidget* field = Page(page)->First_Field();
-    (field != nullptr ? field : wbButton3[1])->setFocus();
+    (field != nullptr ? field : next)->setFocus();
 }
 
 void frmAddReminderWizard::Mark_Step(WizardPage page) {
-    for (std::size_t i = 0; i < Label3.size(); ++i) {
+    for (std::size_t i = 0; i < steps.size(); ++i) {
         const bool current = i == static_cast<std::size_t>(page);
         QFont font = Small_Font();
         font.setBold(current);
-        Label3[i]->setFont(font);
-        Label3[i]->setPalette(Form_Palette(current ? palette::Button_Back : palette::White));
-        Label3[i]->setAccessibleName(current ? Label3[i]->text() + u", current step"_s
-                                             : Label3[i]->text());
+        steps[i]->setFont(font);
+        steps[i]->setPalette(Form_Palette(current ? palette::Button_Back : palette::White));
+        steps[i]->setAccessibleName(current ? steps[i]->text() + u", current step"_s
+                                            : steps[i]->text());
     }
 }
 
@@ -167,51 +155,15 @@ void frmAddReminderWizard::Next_Click() {
     Unload();
 }
 
-void frmAddReminderWizard::Open_Calendar() {
-    if (CurrentPage == WizardPage::StartDate) {
-        Open_Calendar(FrmCalendarCopy3, state.Text8,
-                      &frmAddReminderWizard::FrmCalendarCopy3_DateSelected);
-    } else if (state.Option2 == WizardType::Birthday) {
-        std::int32_t day = 0;
-        std::int32_t month = 0;
-        const bool valid = Parse_Birthday(state.Text3, day, month) == 0;
-        Open_Calendar(frmCalendarCopy,
-                      valid ? FormatUserDate(day, month, Read_Moment().Year, false) : QString(),
-                      &frmAddReminderWizard::frmCalendarCopy_DateSelected);
-    } else {
-        Open_Calendar(FrmCalendarCopy2, state.Text1,
-                      &frmAddReminderWizard::FrmCalendarCopy2_DateSelected);
-    }
-}
-
-void frmAddReminderWizard::Open_Calendar(QPointer<frmCalendar>& calendar, const QString& date,
-                                         DateTaker taker) {
+// It goes with its page.
+void frmAddReminderWizard::Open_Calendar(QWidget* field, const QString& date,
+                                         const DateTaker& taken) {
     if (!calendar || calendar->Is_Unloading()) {
         calendar = new frmCalendar(this);
-        connect(calendar, &frmCalendar::DateSelected, this, taker);
+        connect(calendar, &frmCalendar::DateSelected, this, taken);
     }
     calendar->Show_DateText(date);
-    calendar->Present_Beside(frameGeometry(), *Page(CurrentPage)->Date_Field());
-}
-
-void frmAddReminderWizard::frmCalendarCopy_DateSelected(const QString& NewDate) {
-    std::int32_t day = 0;
-    std::int32_t month = 0;
-    std::int32_t year = 0;
-    if (ParseUserDate(NewDate, day, month, year, {}, false) != 0)
-        return;
-    state.Text3 = Birthday_Text(day, month);
-    Page(WizardPage::Date)->Show_State();
-}
-
-void frmAddReminderWizard::FrmCalendarCopy2_DateSelected(const QString& NewDate) {
-    state.Text1 = NewDate;
-    Page(WizardPage::Date)->Show_State();
-}
-
-void frmAddReminderWizard::FrmCalendarCopy3_DateSelected(const QString& NewDate) {
-    state.Text8 = NewDate;
-    Page(WizardPage::StartDate)->Show_State();
+    calendar->Present_Beside(frameGeometry(), *field);
 }
 
 bool frmAddReminderWizard::Query_Unload(UnloadMode mode) {
@@ -225,9 +177,8 @@ bool frmAddReminderWizard::Query_Unload(UnloadMode mode) {
 }
 
 void frmAddReminderWizard::On_Unload() {
-    for (const auto& calendar : {frmCalendarCopy, FrmCalendarCopy2, FrmCalendarCopy3})
-        if (calendar)
-            calendar->Unload();
+    if (calendar)
+        calendar->Unload();
 }
 
 void frmAddReminderWizard::keyPressEvent(QKeyEvent* event) {

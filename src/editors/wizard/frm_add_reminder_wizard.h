@@ -3,14 +3,13 @@
 
 #include "controls/form.h"
 #include "editors/calendar/frm_calendar.h"
-#include "editors/wizard/wizard_rules.h"
+#include "editors/wizard/wizard_page.h"
 
 #include <QPointer>
 
 #include <array>
 
 class QLabel;
-class WizardPageView;
 class wbButton;
 
 class frmAddReminderWizard : public Form {
@@ -21,10 +20,6 @@ public:
     // Guards the toolbar against hiding and brings it back. That pumps events.
     void Load();
 
-    void frmCalendarCopy_DateSelected(const QString& NewDate);
-    void FrmCalendarCopy2_DateSelected(const QString& NewDate);
-    void FrmCalendarCopy3_DateSelected(const QString& NewDate);
-
 protected:
     bool Query_Unload(UnloadMode mode) override;
     void On_Unload() override;
@@ -32,8 +27,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    using DateTaker = void (frmAddReminderWizard::*)(const QString&);
-
     void Build_SideList();
     void Build_Pages();
     void Build_Buttons();
@@ -42,18 +35,16 @@ private:
     void Next_Click();
     void Previous_Click();
     WizardPageView* Page(WizardPage page) const;
-    void Open_Calendar();
-    void Open_Calendar(QPointer<frmCalendar>& calendar, const QString& date, DateTaker taker);
+    void Open_Calendar(QWidget* field, const QString& date, const DateTaker& taken);
 
     WizardState state;
     WizardPage CurrentPage = WizardPage::Type;
     bool Finished = false;
-    std::array<QLabel*, WizardPageCount> Label3{};
-    std::array<WizardPageView*, WizardPageCount> PagesPicBox{};
-    std::array<wbButton*, 2> wbButton3{};
-    QPointer<frmCalendar> frmCalendarCopy;  // for Text3
-    QPointer<frmCalendar> FrmCalendarCopy2; // for Text1
-    QPointer<frmCalendar> FrmCalendarCopy3; // for Text8
+    std::array<QLabel*, WizardPageCount> steps{};
+    std::array<WizardPageView*, WizardPageCount> pageViews{};
+    wbButton* previous = nullptr;
+    wbButton* next = nullptr;
+    QPointer<frmCalendar> calendar;
 };
 
 // Opens the wizard, or brings the open one to the front. May pump events.

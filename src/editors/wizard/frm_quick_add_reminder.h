@@ -23,21 +23,19 @@ class frmQuickAddReminder : public Form {
 public:
     frmQuickAddReminder();
 
-    void frmCalendarCopy_DateSelected(const QString& NewDate);
-
 protected:
     void On_Unload() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Build_Message();
-    void Build_Days();
-    void Build_Hours();
-    TimeField* Add_TimeBox(const QString& name, const QRect& place, ChkBox* box);
+    void Build_Message(const QuickAddState& first);
+    void Build_Days(const QuickAddState& first);
+    void Build_Hours(const QuickAddState& first);
+    TimeField* Add_TimeBox(int number, const QRect& place, ChkBox* box);
     void Build_Buttons();
-    void Choose_Day(std::size_t index);
-    void Hour_Unchecked(std::size_t index);
-    void Text1_LostFocus(Qt::FocusReason reason);
+    void Choose_Day(DayChoice choice);
+    void Hour_Unchecked(ChkBox* box);
+    void Title_Left(Qt::FocusReason reason);
 
     QuickAddState State() const;
     // The own reminder; made anew when somebody has deleted it.
@@ -49,14 +47,15 @@ private:
     void Calendar_Click();
 
     ReminderRef pending;
-    QLineEdit* Text1 = nullptr;
-    MemoField* Text3 = nullptr;
-    ComboBox* Combo1 = nullptr;
-    std::array<QRadioButton*, 3> Option1{};
-    std::array<ChkBox*, 7> p2ChkImage{}; // 0..3 hours, 4..6 days
-    QLineEdit* Text5 = nullptr;
-    std::array<TimeField*, QuickTimeCount> hText{};
-    QPointer<frmCalendar> frmCalendarCopy;
+    QLineEdit* title = nullptr;
+    MemoField* text = nullptr;
+    ComboBox* category = nullptr;
+    std::array<QRadioButton*, 3> modes{};
+    std::array<ChkBox*, 3> days{}; // by DayChoice
+    QLineEdit* date = nullptr;
+    std::array<ChkBox*, 1 + QuickTimeCount> hours{}; // at start up, then the times
+    std::array<TimeField*, QuickTimeCount> times{};
+    QPointer<frmCalendar> calendar;
     ClockPopup clock;
 };
 

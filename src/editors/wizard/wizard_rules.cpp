@@ -36,36 +36,35 @@ QString Trim_Blanks(const QString& text) {
 }
 
 Check Take_Type(WizardState& state) {
-    state.SelectedType = state.Option2;
-    if (state.SelectedType == WizardType::None)
+    if (state.Type == WizardType::None)
         return WizardError{u"Please select a type"_s, platform::BoxStyle::Plain};
     return {};
 }
 
 Check Take_ExactDate(WizardState& state) {
-    const Day day = ParseUserDateToDay(state.Text1, {});
+    const Day day = ParseUserDateToDay(state.ExactDate, {});
     if (day == NoDay)
-        return Warning("Invalid date: "_L1 + state.Text1);
-    state.rObj.Set_ExactDate(DayToDate(day), day);
+        return Warning("Invalid date: "_L1 + state.ExactDate);
+    state.Made.Set_ExactDate(DayToDate(day), day);
     return {};
 }
 
 Check Take_Weekdays(WizardState& state) {
-    state.rObj.rs_DateType_Used = DateType::Weekdays;
+    state.Made.rs_DateType_Used = DateType::Weekdays;
     std::array<std::uint8_t, 8> days{};
-    std::copy(state.Check1.begin(), state.Check1.end(), days.begin());
+    std::copy(state.Weekdays.begin(), state.Weekdays.end(), days.begin());
     if (days == std::array<std::uint8_t, 8>{})
         return Warning(u"Select at least one day"_s);
-    state.rObj.Set_Rs_Rdays(days);
+    state.Made.Set_Rs_Rdays(days);
     return {};
 }
 
 Check Take_EveryXDays(WizardState& state) {
-    state.rObj.rs_DateType_Used = DateType::EveryXDays;
-    const std::int32_t days = Days_FromText(state.Text2);
+    state.Made.rs_DateType_Used = DateType::EveryXDays;
+    const std::int32_t days = Days_FromText(state.Days);
     if (days == -1)
-        return Warning("Invalid value: "_L1 + state.Text2);
-    state.rObj.rs_ReDays = static_cast<std::int16_t>(days);
+        return Warning("Invalid value: "_L1 + state.Days);
+    state.Made.rs_ReDays = static_cast<std::int16_t>(days);
     return {};
 }
 
@@ -73,22 +72,22 @@ Check Take_Birthday(WizardState& state, const Moment& now) {
     std::int32_t day = 0;
     std::int32_t month = 0;
     // 2000 has every day of a year.
-    if (Parse_Birthday(state.Text3, day, month) != 0 || day == 0 ||
+    if (Parse_Birthday(state.Birthday, day, month) != 0 || day == 0 ||
         DateToDay(day, month, 2000) == NoDay)
-        return Warning("Invalid date: "_L1 + state.Text3);
-    state.rObj.Set_ExactDate({day, month, 0}, DateToDay(day, month, now.Year));
+        return Warning("Invalid date: "_L1 + state.Birthday);
+    state.Made.Set_ExactDate({day, month, 0}, DateToDay(day, month, now.Year));
     return {};
 }
 
 Check Take_Date(WizardState& state, const Moment& now) {
     // Coming back to this page starts from a fresh reminder; the later pages write theirs again.
-    ReminderClass& reminder = state.rObj;
+    ReminderClass& reminder = state.Made;
     reminder = ReminderClass();
     reminder.SetDefaultValues();
     reminder.rs_REveryDay = false;
     reminder.rs_PlaySound = true;
     reminder.rs_SoundPath.clear();
-    switch (state.SelectedType) {
+    switch (state.Type) {
     case WizardType::ExactDate:
         return Take_ExactDate(state);
     case WizardType::EveryDay:
@@ -100,7 +99,7 @@ Check Take_Date(WizardState& state, const Moment& now) {
         return Take_Weekdays(state);
     case WizardType::EveryMonth:
         reminder.rs_DateType_Used = DateType::DayOfMonth;
-        reminder.rs_REDayOfMonth = state.DayLabelTag + 1;
+        reminder.rs_REDayOfMonth = state.DayOfMonth;
         return {};
     case WizardType::EveryXDays:
         return Take_EveryXDays(state);
@@ -121,39 +120,39 @@ Check Take_Time(WizardState& state) {
 }
 
 Check Take_DisplayMode(WizardState& state) {
-    state.rObj.rs_Reminder_Type = state.Option3;
-    state.rObj.rs_Minimize_Apps = state.Check4 && state.Option3 == ReminderType::Centered;
+    state.Made.rs_Reminder_Type = state.DisplayMode;
+    state.Made.rs_Minimize_Apps = state.MinimizeApps && state.DisplayMode == ReminderType::Centered;
     return {};
 }
 
 Check Take_Message(WizardState& state) {
-    QString text = Trim_Blanks(state.Text5);
+    QString text = Trim_Blanks(state.Message);
     if (text.endsWith("\r\n"_L1))
         text.chop(2);
     if (text.trimmed().isEmpty())
         return Warning(u"Message is empty"_s);
-    state.rObj.rs_Text = text;
-    state.rObj.rs_Title = Title_FromMessage(text);
-    state.Text7 = state.rObj.rs_Title;
+    state.Made.rs_Text = text;
+    state.Made.rs_Title = Title_FromMessage(text);
+    state.Title = state.Made.rs_Title;
     return {};
 }
 
 // The title box is not read back: the title stays the one of the message, and that is meant. A new
 // category waits for the next time that the table takes up what the reminders use.
 Check Take_Misc(WizardState& state) {
-    state.rObj.rs_Category = Category_FromText(state.Combo1);
-    state.rObj.rs_Icon = Icon_OfCategory(state.rObj.rs_Category);
+    state.Made.rs_Category = Category_FromText(state.Category);
+    state.Made.rs_Icon = Icon_OfCategory(state.Made.rs_Category);
     return {};
 }
 
 Check Take_StartDate(WizardState& state) {
-    state.rObj.rs_ActivationDay = 0;
-    if (state.Option1 == StartChoice::AlwaysActive || !Has_StartDate(state.SelectedType))
+    state.Made.rs_ActivationDay = 0;
+    if (state.Start == StartChoice::AlwaysActive || !Has_StartDate(state.Type))
         return {};
-    const Day day = ParseUserDateToDay(state.Text8, {});
+    const Day day = ParseUserDateToDay(state.StartDate, {});
     if (day == NoDay)
-        return Warning("Invalid date: "_L1 + state.Text8);
-    state.rObj.rs_ActivationDay = day;
+        return Warning("Invalid date: "_L1 + state.StartDate);
+    state.Made.rs_ActivationDay = day;
     return {};
 }
 
@@ -169,10 +168,10 @@ bool Has_StartDate(WizardType type) {
 
 WizardState New_WizardState(const Moment& now) {
     WizardState state;
-    state.Text1 = DayToDateString(now.Today);
-    state.Text3 = Birthday_Text(now.DayOfMonth, now.Month);
-    for (std::size_t i = 0; i < state.Text4.size(); ++i)
-        state.Text4[i] = MinutesToTime(HourToMinutes(6 + 2 * static_cast<std::int32_t>(i), 0));
+    state.ExactDate = DayToDateString(now.Today);
+    state.Birthday = Birthday_Text(now.DayOfMonth, now.Month);
+    for (std::size_t i = 0; i < state.Times.size(); ++i)
+        state.Times[i] = MinutesToTime(HourToMinutes(6 + 2 * static_cast<std::int32_t>(i), 0));
     return state;
 }
 
@@ -202,24 +201,24 @@ HourListView Rebuild_HourList(WizardState& state) {
     HourListView view;
     QStringList times;
     QStringList faults;
-    state.rObj.ClearAllHourSetup();
-    if (state.Check2) {
+    state.Made.ClearAllHourSetup();
+    if (state.AtStartUp) {
         times << u"start up"_s;
-        state.rObj.AddNewHourSetup({-1, -1, 0, 0});
+        state.Made.AddNewHourSetup({-1, -1, 0, 0});
     }
-    for (std::size_t i = 0; i < state.Text4.size(); ++i) {
-        if (!state.Check3[i])
+    for (std::size_t i = 0; i < state.Times.size(); ++i) {
+        if (!state.AtTime[i])
             continue;
-        const std::int32_t minute = ParseTime_Colon(state.Text4[i]);
+        const std::int32_t minute = ParseTime_Colon(state.Times[i]);
         view.Marked[i] = minute == -1;
         if (view.Marked[i]) {
             // A ticked box without a text is no fault beside a good one.
-            if (!state.Text4[i].isEmpty())
-                faults << state.Text4[i];
+            if (!state.Times[i].isEmpty())
+                faults << state.Times[i];
             continue;
         }
         times << MinutesToTime(minute);
-        state.rObj.AddNewHourSetup({-1, static_cast<std::int16_t>(minute), 0, 0});
+        state.Made.AddNewHourSetup({-1, static_cast<std::int16_t>(minute), 0, 0});
     }
     view.List = times.join(", "_L1);
     view.ErrorText = faults.join(", "_L1);
@@ -230,7 +229,7 @@ HourListView Rebuild_HourList(WizardState& state) {
 
 void Add_ToReminderTable(const WizardState& state) {
     // No identity of its own: the numbers stay 0 and 0, as for all reminders made here.
-    Add_Reminder(std::make_unique<ReminderClass>(state.rObj));
+    Add_Reminder(std::make_unique<ReminderClass>(state.Made));
 }
 
 QString Title_FromMessage(const QString& message) {

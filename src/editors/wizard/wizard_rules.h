@@ -1,6 +1,7 @@
 // What the add-reminder wizard asks, as plain data, and the rules that turn it into a reminder.
 #pragma once
 
+#include "core/categories.h"
 #include "core/reminder.h"
 #include "platform/dialogs.h"
 
@@ -42,25 +43,24 @@ constexpr int WizardTimeCount = 8;
 
 // The contents of the pages, and what has been made of them so far.
 struct WizardState {
-    WizardType Option2 = WizardType::ExactDate;
-    QString Text1; // the exact date
-    std::array<bool, 7> Check1{};
-    std::int32_t DayLabelTag = 14; // index of the selected day of the month
-    QString Text2 = QStringLiteral("2");
-    QString Text3; // the birthday, day and month
-    bool Check2 = false;
-    std::array<bool, WizardTimeCount> Check3{};
-    std::array<QString, WizardTimeCount> Text4;
-    ReminderType Option3 = ReminderType::NextToToolbar;
-    bool Check4 = false;
-    QString Text5; // lines end with CR LF
-    QString Text7; // the title
-    QString Combo1 = QStringLiteral("--");
-    StartChoice Option1 = StartChoice::AlwaysActive;
-    QString Text8;
+    WizardType Type = WizardType::ExactDate;
+    QString ExactDate;
+    std::array<bool, 7> Weekdays{}; // Monday first
+    std::int32_t DayOfMonth = 15;
+    QString Days = QStringLiteral("2");
+    QString Birthday; // day and month
+    bool AtStartUp = false;
+    std::array<bool, WizardTimeCount> AtTime{};
+    std::array<QString, WizardTimeCount> Times;
+    ReminderType DisplayMode = ReminderType::NextToToolbar;
+    bool MinimizeApps = false;
+    QString Message; // lines end with CR LF
+    QString Title;
+    QString Category = NoCategoryText;
+    StartChoice Start = StartChoice::AlwaysActive;
+    QString StartDate;
 
-    WizardType SelectedType = WizardType::None;
-    ReminderClass rObj;
+    ReminderClass Made;
 };
 // As the wizard opens: today's dates and eight times of the day.
 WizardState New_WizardState(const Moment& now);
@@ -69,7 +69,7 @@ struct WizardError {
     QString Text;
     platform::BoxStyle Style = platform::BoxStyle::Exclamation;
 };
-// Checks a page and takes it over into rObj. Nothing: the page passes.
+// Checks a page and takes it over into Made. Nothing: the page passes.
 std::optional<WizardError> Validate_WizardPage(WizardPage page, WizardState& state,
                                                const Moment& now);
 
@@ -78,10 +78,10 @@ struct HourListView {
     QString ErrorText; // empty: all is well; "--": no condition; else the texts at fault
     std::array<bool, WizardTimeCount> Marked{};
 };
-// Builds the hour list of rObj anew.
+// Builds the hour list of Made anew.
 HourListView Rebuild_HourList(WizardState& state);
 
-// Puts rObj into a free slot of the table.
+// Puts Made into a free slot of the table.
 void Add_ToReminderTable(const WizardState& state);
 
 // The title that a message gives: one line, at most 18 characters and "...".

@@ -49,6 +49,19 @@ int Parse_Birthday(const QString& text, std::int32_t& day, std::int32_t& month) 
     return ParseDayMonth(day, month, year, With_Slashes(text), With_Slashes(Birthday_Format()));
 }
 
+QString Birthday_ThisYear(const QString& text, const Moment& now) {
+    std::int32_t day = 0;
+    std::int32_t month = 0;
+    const bool valid = Parse_Birthday(text, day, month) == 0;
+    return valid ? FormatUserDate(day, month, now.Year, false) : QString();
+}
+
+QString Birthday_OfDate(const QString& date) {
+    CalendarDate read;
+    const bool valid = ParseUserDate(date, read.day, read.month, read.year, {}, false) == 0;
+    return valid ? Birthday_Text(read.day, read.month) : QString();
+}
+
 // The separators of the user's own pattern count too: "25.03.2026" could not be typed otherwise.
 bool Is_DateCharacter(QChar letter) {
     return Is_DigitCharacter(letter) || letter == u'/' ||
@@ -88,9 +101,9 @@ QString StartDate_Sentence(const QString& date) {
     return Fill("The reminder will be activated on: [date]"_L1, "[date]"_L1, date);
 }
 
-QString DayOfMonth_Sentence(std::int32_t dayLabelTag) {
+QString DayOfMonth_Sentence(std::int32_t day) {
     return Fill("The reminder will be displayed the [ddd] day of each month."_L1, "[ddd]"_L1,
-                OrdinalText(dayLabelTag + 1));
+                OrdinalText(day));
 }
 
 QString EveryXDays_Sentence(const QString& days) {

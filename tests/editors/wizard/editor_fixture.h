@@ -7,17 +7,15 @@
 #include "controls/wb_button.h"
 #include "core/categories.h"
 #include "core/date_text.h"
-#include "core/record_stream.h"
 #include "core/reminder_store.h"
 #include "support/fake_system.h"
 #include "support/fake_toolbar.h"
+#include "support/form_driver.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QtTest/QTest>
-#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 constexpr Day Monday = 9558; // 26 years of 365 days, 7 leap days before, 59 days, the 2nd
 
@@ -29,57 +27,35 @@ protected:
         Init_DateText();
         Init_Reminders();
         Init_Categories();
-        Global_Categories[0] = {QStringLiteral("Work"), QStringLiteral("Write")};
-        Global_DateFormat = QStringLiteral("dd/mm/yyyy");
+        Global_Categories[0] = {u"Work"_s, u"Write"_s};
+        Global_DateFormat = u"dd/mm/yyyy"_s;
     }
     ~EditorTest() override {
         Set_Program_Ending(false);
         Unload_PendingForms();
-        Global_DateFormat = QStringLiteral("mm/dd/yyyy");
+        Global_DateFormat = u"mm/dd/yyyy"_s;
     }
-    template <class Window>
-    static Window* Open_Window() {
-        for (QWidget* top : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<Window*>(top); found && !found->isHidden())
-                return found;
-        return nullptr;
-    }
-    template <class Control = QWidget>
-    Control* Find(const QString& name) {
-        auto* found = window->findChild<Control*>(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found;
-    }
-    void Click(const QString& name) {
-        auto* control = Find(name);
-        // A radio button listens on its picture and text only.
-        QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
-    }
+    void Click(const QString& name) { Click_On<QWidget>(name, window); }
     void Type(const QString& name, const QString& text) {
-        auto* field = Find(name);
-        field->setFocus();
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(field, Qt::Key_Delete);
-        for (const QChar letter : text)
-            letter == u'\n' ? QTest::keyClick(field, Qt::Key_Return)
-                            : QTest::keyClick(field, letter.toLatin1());
+        Type_Into(Find<QWidget>(name, window), text);
     }
-    // The focus is told to a window that has it.
-    static void Give_Focus(QWidget* target) {
-        target->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(target));
-    }
-    QString Text_Of(const QString& label) { return Find<QLabel>(label)->text(); }
+    QString Text_Of(const QString& field) { return Find<QLineEdit>(field, window)->text(); }
+    // A sentence that is on view.
+    bool Says(const QString& text) { return Find<QLabel>(text, window)->isVisible(); }
     static std::size_t Used_Slots() {
-        std::size_t used = 0;
-        for (const ReminderSlot& slot : Global_Reminders)
-            used += slot.Used ? 1 : 0;
-        return used;
+        return static_cast<std::size_t>(
+            std::count_if(Global_Reminders.begin(), Global_Reminders.end(),
+                          [](const ReminderSlot& slot) { return slot.Used; }));
     }
-    static std::string Bytes_Of(const ReminderClass& reminder) {
-        RecordWriter writer;
-        reminder.SaveData_To_File(writer);
-        return writer.Bytes();
+    static const ReminderClass& Made(std::size_t slot) {
+        return Global_Reminders[slot].Reminder.Peek();
+    }
+    // Start minutes of the hour setups, "1080 -1".
+    static QString Hours(const ReminderClass& reminder) {
+        QStringList starts;
+        for (std::int32_t i = 0; i <= reminder.HourSetupList_Size(); ++i)
+            starts << QString::number(reminder.GetHourSetup(i).StartMinute);
+        return starts.join(u' ');
     }
 
     FakeSystem system;
