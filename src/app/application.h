@@ -37,6 +37,8 @@ public:
     void Show_Again();
 
     MainForm* Main_Form() const { return mainForm.get(); }
+    // From the end of the load to the end.
+    BackgroundSave* Background() const { return background.get(); }
 
 private:
     struct Step {

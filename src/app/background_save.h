@@ -46,6 +46,9 @@ public:
 
     // Something may have changed: it is looked at after the pace's time.
     void Note_Change();
+    // Looks at once. Not while Is_Passing.
+    void Begin();
+    bool Is_Passing() const { return passing; }
     // Ends for good: nothing is under way afterwards. The tables have not been looked at again.
     void Finish();
     // What was kept of files that somebody else had changed, since the last call; one line each.
@@ -55,7 +58,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Begin();
     void Step();
     void Hand_Over(const Table& table, std::optional<std::string> bytes);
     void Note_Result(const QString& failure, SaveResult result);

@@ -150,7 +150,7 @@ void Application::Load_ReminderTable() {
 
 void Application::Load_RemindAgain() {
     const QString fileName = Account_File(u"rareminders.dat"_s);
-    if (platform::Files::Get().Exists(fileName)) {
+    if (!platform::Files::Get().Is_Absent(fileName)) {
         Load_RA_Reminders(fileName);
     }
 }
@@ -161,7 +161,7 @@ void Application::Build_OwnLinks() {
 
 void Application::Load_LinkTable() {
     const QString fileName = Account_File(u"links.dat"_s);
-    if (!platform::Files::Get().Exists(fileName)) {
+    if (platform::Files::Get().Is_Absent(fileName)) {
         Build_Default_Links();
     } else if (const int result = Load_Links_File(fileName); result != 0) {
         Show_Error(result == -2 ? u"Error loading links (file version not supported)"_s

@@ -84,7 +84,7 @@ void Load_Categories(const QString& fileName) {
     platform::Files& files = platform::Files::Get();
     Global_Categories.assign(FirstEntries, {});
     const std::optional<std::string> bytes = File_OfCategories.Read(fileName);
-    File_OfCategories.Note_Load(fileName, bytes || !files.Exists(fileName));
+    File_OfCategories.Note_Load(fileName, bytes || files.Is_Absent(fileName));
     if (bytes)
         Read_Lines(*bytes);
     if (Global_Categories.front().Name.isEmpty())

@@ -112,7 +112,7 @@ void Set_Default_RA_Options(const QString& fileName, OptionsFile file) {
 
 void Load_RA_Options(const QString& fileName) {
     platform::Files& files = platform::Files::Get();
-    if (!files.Exists(fileName)) {
+    if (files.Is_Absent(fileName)) {
         Set_Default_RA_Options(fileName, OptionsFile::Write);
         return;
     }
@@ -205,7 +205,7 @@ bool Load_RA_Reminders(const QString& fileName) {
     return loaded;
 }
 
-std::string Encode_RA_Reminders(const QString& fileName) {
+std::optional<std::string> Encode_RA_Reminders(const QString& fileName) {
     const std::size_t used = Used_Entries();
     RecordWriter stream;
     stream.Put_Header(FileHeader);
@@ -219,7 +219,10 @@ std::string Encode_RA_Reminders(const QString& fileName) {
     }
     std::string content = stream.Bytes();
     // The file never gets shorter: what earlier, longer queues left in it stays.
-    const std::optional<std::string> old = platform::Files::Get().Read(fileName);
+    platform::Files& files = platform::Files::Get();
+    const std::optional<std::string> old = files.Read(fileName);
+    if (!old && !files.Is_Absent(fileName))
+        return std::nullopt;
     if (old && old->size() > content.size())
         content.append(*old, content.size());
     return content;
@@ -230,5 +233,6 @@ TableFile& RA_File() {
 }
 
 bool Save_RA_Reminders(const QString& fileName) {
-    return File_OfQueue.Save(fileName, Encode_RA_Reminders(fileName));
+    const std::optional<std::string> content = Encode_RA_Reminders(fileName);
+    return content && File_OfQueue.Save(fileName, *content);
 }

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -58,7 +59,8 @@ void Check_RA_Reminders(const std::function<void(std::int32_t index)>& deliver);
 bool Load_RA_Reminders(const QString& fileName);
 // What stands behind the entries in the file stays there. False: nothing was replaced.
 bool Save_RA_Reminders(const QString& fileName);
-// The bytes of that file, with the tail of the one that stands there.
-std::string Encode_RA_Reminders(const QString& fileName);
+// The bytes of that file, with the tail of the one that stands there; nothing when that cannot be
+// read.
+std::optional<std::string> Encode_RA_Reminders(const QString& fileName);
 // The queue's file, for who writes it beside the interface.
 TableFile& RA_File();

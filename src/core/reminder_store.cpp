@@ -162,7 +162,7 @@ bool Save_Reminders(const QString& fileName) {
 AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile) {
     platform::Files& files = platform::Files::Get();
     const QString fileName = accountFolder + "/reminders.dat"_L1;
-    if (!files.Exists(fileName)) {
+    if (files.Is_Absent(fileName)) {
         if (!files.Exists(exampleFile))
             return AccountLoad::NoFile;
         Load_Reminders(exampleFile);

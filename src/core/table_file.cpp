@@ -38,7 +38,7 @@ void TableFile::Note_Load(const QString& fileName, bool loaded) {
 bool TableFile::Keep_Others(const QString& fileName, const std::string& content) {
     platform::Files& files = platform::Files::Get();
     if (!NotLoaded.isEmpty() && NotLoaded == fileName) {
-        if (files.Exists(fileName) && Keep_Copy(fileName, ".damaged"_L1).isEmpty()) {
+        if (!files.Is_Absent(fileName) && Keep_Copy(fileName, ".damaged"_L1).isEmpty()) {
             return false;
         }
         NotLoaded.clear();
@@ -46,7 +46,10 @@ bool TableFile::Keep_Others(const QString& fileName, const std::string& content)
     }
     const platform::FileStamp now = files.Stamp(fileName);
     const platform::FileStamp before = Known == fileName ? Stamp : platform::FileStamp();
-    if (!now.Exists() || now == before || files.Read(fileName) == content) {
+    if (!now.Exists()) {
+        return files.Is_Absent(fileName);
+    }
+    if (now == before || files.Read(fileName) == content) {
         return true;
     }
     OtherCopy = Keep_Copy(fileName, ".other"_L1);

@@ -159,7 +159,7 @@ NotesLoad Load_AccountNotes(const QString& accountFolder, const QString& example
     platform::Files& files = platform::Files::Get();
     const QString fileName = accountFolder + "/notes.dat"_L1;
     NotesLoad result = NotesLoad::NoFile;
-    if (files.Exists(fileName)) {
+    if (!files.Is_Absent(fileName)) {
         const int loaded = Load_Notes_File(fileName);
         if (loaded == 0)
             return NotesLoad::Loaded;

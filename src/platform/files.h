@@ -26,6 +26,9 @@ struct FileStamp {
 class Files : public Service<Files> {
 public:
     virtual bool Exists(const QString& path) = 0;
+    // Known not to be there: false also where that cannot be told. What may be there must not be
+    // taken for a first start.
+    virtual bool Is_Absent(const QString& path) { return !Exists(path); }
     // The whole content; nothing when it is not a readable regular file.
     virtual std::optional<std::string> Read(const QString& path) = 0;
     // Writes the whole content beside the file, syncs it, renames it over the file and syncs the
@@ -36,7 +39,8 @@ public:
     virtual bool Copy(const QString& from, const QString& to, bool overwrite) = 0;
     virtual FileStamp Stamp(const QString& path) = 0;
     virtual bool Make_Folder(const QString& path) = 0;
-    // Deletes what runs that were killed in the middle of Replace have left in a folder.
+    // Deletes what runs that were killed in the middle of Replace have left in a folder, and where
+    // the links in it lead to.
     virtual void Sweep(const QString& folder) = 0;
     // The names of the files in a folder that hold no byte; nothing when it cannot be listed.
     virtual std::optional<QStringList> Empty_Files(const QString& folder) = 0;

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,6 +54,13 @@ public:
     virtual std::vector<QString> Value_Names(RegistryRoot root, const QString& path) = 0;
     // False when the root is there and may not be read: no value of it is known then.
     virtual bool Is_Readable(RegistryRoot root) = 0;
+
+    // Carries out changes that belong together, where the system can so that a root has all of them
+    // or none. False when one could not be stored in the end.
+    virtual bool Together(const std::function<void()>& changes) {
+        changes();
+        return true;
+    }
 };
 
 } // namespace platform

@@ -17,8 +17,9 @@ bool May_Be_Marker(const QString& name) {
     static const QStringList dataFiles{u"reminders.dat"_s,   u"reminders.bak"_s,
                                        u"rareminders.dat"_s, u"links.dat"_s,
                                        u"notes.dat"_s,       u"rcategories.txt"_s};
-    return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/') &&
-           !name.contains(u'\\') && !name.startsWith("reminders.dat"_L1, Qt::CaseInsensitive) &&
+    return !name.isEmpty() && !name.startsWith(".tockly-"_L1) && name != "."_L1 &&
+           name != ".."_L1 && !name.contains(u'/') && !name.contains(u'\\') &&
+           !name.startsWith("reminders.dat"_L1, Qt::CaseInsensitive) &&
            !dataFiles.contains(name, Qt::CaseInsensitive);
 }
 

@@ -1,6 +1,7 @@
 #include "settings/global_settings.h"
 
 #include "core/date_text.h"
+#include "platform/registry.h"
 #include "platform/session.h"
 #include "settings/registry_access.h"
 
@@ -181,11 +182,13 @@ void Load_Global_Settings(const SettingsDefaults& defaults) {
 void Save_Global_Settings(const LiveGeometry& geometry, const QString& programFolder) {
     FirstTime = 0;
     Take_Geometry(geometry, programFolder);
-    const clsRegistryAccess registry;
-    registry.CreateKey(Key_Text(SettingKey::User));
-    for (const std::size_t index : SaveOrder) {
-        Write_Row(registry, Rows[index], Take_Value(Rows[index]));
-    }
+    platform::Registry::Get().Together([] {
+        const clsRegistryAccess registry;
+        registry.CreateKey(Key_Text(SettingKey::User));
+        for (const std::size_t index : SaveOrder) {
+            Write_Row(registry, Rows[index], Take_Value(Rows[index]));
+        }
+    });
 }
 
 std::function<void()> Take_Global_Settings(const LiveGeometry& geometry,
@@ -198,10 +201,12 @@ std::function<void()> Take_Global_Settings(const LiveGeometry& geometry,
         }
     }
     return [values = std::move(values)] {
-        const clsRegistryAccess registry;
-        registry.CreateKey(Key_Text(SettingKey::User));
-        for (const auto& [row, value] : values) {
-            Write_Row(registry, *row, value);
-        }
+        platform::Registry::Get().Together([&values] {
+            const clsRegistryAccess registry;
+            registry.CreateKey(Key_Text(SettingKey::User));
+            for (const auto& [row, value] : values) {
+                Write_Row(registry, *row, value);
+            }
+        });
     };
 }

@@ -67,7 +67,8 @@ std::string Resolve_Links(std::string path) {
         std::array<char, PATH_MAX> target{};
         const ssize_t size = readlink(path.c_str(), target.data(), target.size());
         if (size < 0) {
-            return path;
+            // What cannot be looked at may be a link: it must not be replaced by a file.
+            return errno == EINVAL || errno == ENOENT || errno == ENOTDIR ? path : std::string();
         }
         std::string next(target.data(), static_cast<std::size_t>(size));
         if (!next.starts_with('/')) {
@@ -81,8 +82,12 @@ std::string Resolve_Links(std::string path) {
 bool Replace_File(const std::string& path, const std::string& content, unsigned mode) {
     const std::string target = Resolve_Links(path);
     struct stat old {};
-    const bool isThere = !target.empty() && stat(target.c_str(), &old) == 0;
-    if (target.empty() || (isThere && !S_ISREG(old.st_mode))) {
+    if (target.empty()) {
+        return false;
+    }
+    const bool isThere = stat(target.c_str(), &old) == 0;
+    // The mode of a file that cannot be looked at would be lost.
+    if (isThere ? !S_ISREG(old.st_mode) : errno != ENOENT) {
         return false;
     }
     // A file that may not be written is refused, although the folder would let it be replaced.
@@ -90,7 +95,8 @@ bool Replace_File(const std::string& path, const std::string& content, unsigned 
         return false;
     }
     std::string temporary;
-    Descriptor file = Make_Beside(target, mode, temporary);
+    // Never open to more than the file will be.
+    Descriptor file = Make_Beside(target, isThere ? old.st_mode & 0777U : mode, temporary);
     if (!file.Is_Open()) {
         return false;
     }

@@ -12,10 +12,21 @@ using namespace Qt::StringLiterals;
 
 namespace platform {
 
+namespace {
+
+QString Folder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           u"/autostart"_s;
+}
+
+} // namespace
+
+void Sweep_Autostart() {
+    Make_Files()->Sweep(Folder());
+}
+
 bool Set_Autostart(const std::optional<QString>& command) {
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/autostart"_s;
-    const QString entry = folder + u"/tockly.desktop"_s;
+    const QString entry = Folder() + u"/tockly.desktop"_s;
     if (!command) {
         return !QFileInfo::exists(entry) || QFile::remove(entry);
     }
@@ -23,7 +34,7 @@ bool Set_Autostart(const std::optional<QString>& command) {
     const QStringList words =
         QFileInfo::exists(*command) ? QStringList(*command) : Command_Words(*command);
     const auto files = Make_Files();
-    files->Make_Folder(folder);
+    files->Make_Folder(Folder());
     return !words.isEmpty() &&
            files->Replace(entry, Autostart_Entry(QString::fromUtf16(RunValue), words));
 }

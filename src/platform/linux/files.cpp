@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <array>
 #include <cerrno>
@@ -45,9 +46,25 @@ bool Is_Running(pid_t process) {
     return process != getpid() && (kill(process, 0) == 0 || errno != ESRCH);
 }
 
+void Sweep_One(const QString& folder) {
+    static const QRegularExpression temporary(u"^\\.tockly-([0-9]+)-[0-9]+\\.tmp$"_s);
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
+        const auto name = temporary.match(file.fileName());
+        // A shared folder may be another run's, which is writing just now.
+        if (name.hasMatch() && !Is_Running(name.captured(1).toInt())) {
+            QFile::remove(file.filePath());
+        }
+    }
+}
+
 class LinuxFiles : public Files {
 public:
     bool Exists(const QString& path) override { return QFileInfo::exists(path); }
+
+    bool Is_Absent(const QString& path) override {
+        struct stat found {};
+        return stat(Native(path).c_str(), &found) != 0 && (errno == ENOENT || errno == ENOTDIR);
+    }
 
     std::optional<std::string> Read(const QString& path) override {
         // Without O_NONBLOCK a pipe of that name would hold the program for ever.
@@ -64,8 +81,12 @@ public:
     }
 
     bool Copy(const QString& from, const QString& to, bool overwrite) override {
+        struct stat source {};
         const std::optional<std::string> content = Read(from);
-        return content && (overwrite || !Exists(to)) && Replace(to, *content);
+        // A copy is no more open than what it was made of.
+        return content && (overwrite || !Exists(to)) && !to.isEmpty() &&
+               stat(Native(from).c_str(), &source) == 0 &&
+               Replace_File(Native(to), *content, source.st_mode & 0777U);
     }
 
     FileStamp Stamp(const QString& path) override {
@@ -77,13 +98,14 @@ public:
     }
 
     void Sweep(const QString& folder) override {
-        static const QRegularExpression temporary(u"^\\.tockly-([0-9]+)-[0-9]+\\.tmp$"_s);
+        QSet<QString> folders{folder};
         for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::Hidden)) {
-            const auto name = temporary.match(file.fileName());
-            // A shared folder may be another run's, which is writing just now.
-            if (name.hasMatch() && !Is_Running(name.captured(1).toInt())) {
-                QFile::remove(file.filePath());
+            if (file.isSymLink()) {
+                folders.insert(QFileInfo(file.canonicalFilePath()).path());
             }
+        }
+        for (const QString& each : folders) {
+            Sweep_One(each);
         }
     }
 

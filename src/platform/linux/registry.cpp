@@ -96,6 +96,19 @@ public:
         return file == nullptr || file->Is_Readable();
     }
 
+    bool Together(const std::function<void()>& changes) override {
+        const std::scoped_lock lock(access);
+        for (const RegistryRoot root : {RegistryRoot::CurrentUser, RegistryRoot::LocalMachine}) {
+            Kept(root)->Hold();
+        }
+        changes();
+        bool stored = true;
+        for (auto& [root, file] : files) {
+            stored = file.Store() && stored;
+        }
+        return stored;
+    }
+
 private:
     // The file of a root; nothing for the roots that only the other system has.
     RegistryFile* Kept(RegistryRoot root) {
@@ -103,8 +116,13 @@ private:
             return nullptr;
         }
         const auto found = files.find(root);
-        return found != files.end() ? &found->second
-                                    : &files.try_emplace(root, root, File_Of(root)).first->second;
+        if (found != files.end()) {
+            return &found->second;
+        }
+        if (root == RegistryRoot::LocalMachine) {
+            Sweep_Autostart();
+        }
+        return &files.try_emplace(root, root, File_Of(root)).first->second;
     }
 
     const RegistryTree& Tree(RegistryRoot root) {

@@ -15,9 +15,12 @@ RegistryFile::RegistryFile(RegistryRoot keptRoot, QString keptPath)
     : root(keptRoot), path(std::move(keptPath)) {}
 
 const RegistryTree& RegistryFile::Tree() {
+    if (isChanged) {
+        return tree;
+    }
     const auto files = Make_Files();
     const FileStamp now = files->Stamp(path);
-    if (isLoaded && now == stamp) {
+    if (isLoaded && now == stamp && condition != Condition::Unreadable) {
         return tree;
     }
     if (!isLoaded) {
@@ -27,7 +30,7 @@ const RegistryTree& RegistryFile::Tree() {
     stamp = now;
     condition = Condition::Good;
     tree = {};
-    if (!files->Exists(path)) {
+    if (files->Is_Absent(path)) {
         return tree;
     }
     const auto text = files->Read(path);
@@ -59,6 +62,27 @@ bool RegistryFile::Change(const std::function<bool(RegistryTree&)>& step) {
     if (!step(changed)) {
         return false;
     }
+    if (!isHeld) {
+        return Write(changed);
+    }
+    tree = std::move(changed);
+    isChanged = true;
+    return true;
+}
+
+void RegistryFile::Hold() {
+    isHeld = true;
+}
+
+bool RegistryFile::Store() {
+    const bool stored = !isChanged || Write(tree);
+    isHeld = false;
+    isChanged = false;
+    isLoaded = isLoaded && stored; // else read again
+    return stored;
+}
+
+bool RegistryFile::Write(const RegistryTree& changed) {
     // What could not be read must not be replaced by what little is known.
     if (condition == Condition::Unreadable ||
         (condition == Condition::Damaged && !Keep_Damaged())) {
@@ -69,7 +93,7 @@ bool RegistryFile::Change(const std::function<bool(RegistryTree&)>& step) {
     if (!files->Replace(path, Write_RegText(root, changed))) {
         return false;
     }
-    tree = std::move(changed);
+    tree = changed;
     condition = Condition::Good;
     stamp = files->Stamp(path);
     return true;

@@ -20,17 +20,24 @@ public:
     // Carries out a step on a copy and stores that. False, with nothing changed, when the step
     // says so or the file cannot be written.
     bool Change(const std::function<bool(RegistryTree&)>& step);
+    // From Hold to Store changes are kept in memory; Store writes them at once. False: none of them
+    // is in the file, nor known any longer.
+    void Hold();
+    bool Store();
 
 private:
     enum class Condition { Good, Damaged, Unreadable };
 
     bool Keep_Damaged() const;
+    bool Write(const RegistryTree& changed);
 
     RegistryRoot root;
     QString path;
     RegistryTree tree;
     FileStamp stamp;
     bool isLoaded = false;
+    bool isHeld = false;
+    bool isChanged = false; // while it is held
     Condition condition = Condition::Good;
 };
 
