@@ -1,4 +1,5 @@
-# Fails when an include runs upward in the house: cmake -DSOURCE=src -P check_floors.cmake
+# Fails when an include runs upward in the house, or something is used that the house does without:
+# cmake -DSOURCE=src -P check_floors.cmake
 set(floors platform core settings controls delivery accessories links notes editors toolbar app)
 set(faults "")
 file(GLOB_RECURSE files RELATIVE "${SOURCE}" "${SOURCE}/*.h" "${SOURCE}/*.cpp")
@@ -29,6 +30,11 @@ foreach(path IN LISTS files)
     if(systems)
       list(APPEND faults "${path}: asks for an operating system outside of platform")
     endif()
+  endif()
+  file(STRINGS "${SOURCE}/${path}" strangers
+    REGEX "[^A-Za-z_:](std::|::)?(system|popen|exec[lv]p?e?|startCommand)\\(|/bin/sh|QDesktopServices|QNetwork|QTcp|QUdp|QSsl|QTextEdit[^o]")
+  if(strangers)
+    list(APPEND faults "${path}: passes a shell, asks the network or takes markup: ${strangers}")
   endif()
   if(folder MATCHES "^(core|settings)$")
     file(STRINGS "${SOURCE}/${path}" windows REGEX "#[ \t]*include[ \t]*<Q(Widget|Application|GuiApplication|Painter|Pixmap|Screen)")

@@ -44,6 +44,8 @@ struct Listener : ScriptedDialogs {
     }
 };
 
+constexpr auto Others = fs::perms::group_all | fs::perms::others_all;
+
 struct Way {
     int error; // 0: the process ends
     bool forGood;
@@ -181,9 +183,8 @@ protected:
     // What stands on the disk, and after the sweep of the next start.
     void Check(const Files& wanted, bool tells, const std::map<std::string, std::string>& words) {
         for (const auto& entry : fs::recursive_directory_iterator(Path(""))) {
-            const auto bits = entry.symlink_status().permissions();
-            EXPECT_TRUE(!entry.is_regular_file() || entry.is_symlink() ||
-                        (bits & (fs::perms::group_all | fs::perms::others_all)) == fs::perms::none)
+            EXPECT_TRUE(entry.is_symlink() ||
+                        (entry.status().permissions() & Others) == fs::perms::none)
                 << entry.path() << " can be read by others";
         }
         // What was begun for a user is not taken for another's.

@@ -5,8 +5,14 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 #include <memory>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -109,6 +115,41 @@ TEST_F(Launches, one_that_ends_is_waited_for_and_followed) {
     ending.Tell("quit");
     EXPECT_EQ(ending.Exit_Code(), 0);
     EXPECT_EQ(next.Word(), u"first"_s);
+}
+
+TEST_F(Launches, the_socket_is_the_users_alone) {
+    Helper first(Words());
+    ASSERT_EQ(first.Word(), u"first"_s);
+    QFile lock(home.path() + u"/.tockly-%1.lock"_s.arg(getuid()));
+    ASSERT_TRUE(lock.open(QIODevice::ReadOnly));
+    const QByteArray path = lock.readAll();
+    EXPECT_TRUE(path.startsWith(runtime.path().toLocal8Bit())) << path.constData();
+    struct stat found {};
+    ASSERT_EQ(stat(path.constData(), &found), 0);
+    EXPECT_EQ(found.st_mode & 0077U, 0U);
+    if (getuid() != 0) {
+        GTEST_SKIP() << "this user may not be another one";
+    }
+    // The error that another user's connection meets; 0: it is there.
+    const auto Refusal = [&path](uid_t user) {
+        const pid_t child = fork();
+        if (child == 0) {
+            sockaddr_un address{AF_UNIX, {}};
+            qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+            const bool isOther = user == 0 || (setgid(user) == 0 && setuid(user) == 0);
+            const int end = socket(AF_UNIX, SOCK_STREAM, 0);
+            errno = 0;
+            static_cast<void>(connect(end, reinterpret_cast<sockaddr*>(&address), sizeof address));
+            _exit(isOther ? errno : 255);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WEXITSTATUS(status);
+    };
+    EXPECT_EQ(Refusal(0), 0);
+    EXPECT_EQ(Refusal(65534), EACCES);
+    chmod(runtime.path().toLocal8Bit().constData(), 0755);
+    EXPECT_EQ(Refusal(65534), EACCES) << "not by its folder alone";
 }
 
 TEST_F(Launches, another_folder_is_another_program) {

@@ -94,8 +94,9 @@ TEST_F(ShellTest, a_program_is_started_and_a_picture_with_its_bits_is_not) {
     const QString picture = Put(u"picture.png"_s, "\x89PNG", true);
     EXPECT_TRUE(shell->Open(picture, ShowState::Normal));
     EXPECT_EQ(Started(), u"opener|"_s + picture + u'|');
-    EXPECT_TRUE(shell->Start(u"my tool"_s, {u"-a b"_s, {}, u"$HOME"_s}, ShowState::Minimized));
-    EXPECT_EQ(Started(), u"tool|-a b||$HOME|"_s);
+    EXPECT_TRUE(shell->Start(u"my tool"_s, {u"-a b"_s, {}, u"$(id)`id`"_s, u"a;b \"c'"_s},
+                             ShowState::Minimized));
+    EXPECT_EQ(Started(), u"tool|-a b||$(id)`id`|a;b \"c'|"_s);
     // However a program file is named and started, it starts in its own folder.
     Put(u"where.exe"_s,
         "#!/bin/sh\npwd > \"$ARGUMENTS.new\"\nmv \"$ARGUMENTS.new\" \"$ARGUMENTS\"\n", true);

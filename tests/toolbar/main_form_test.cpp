@@ -3,6 +3,9 @@
 #include "support/spoken_name.h"
 #include "toolbar/main_form_fixture.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+
 #include <memory>
 
 namespace {
@@ -147,7 +150,7 @@ TEST_F(MainFormTest, The_presence_of_the_mouse_is_noted) {
 }
 
 TEST_F(MainFormTest, Text_moves_over_the_line_without_repainting_the_strip) {
-    const QString text = u"Time for the 10:30 tea.\r\nHot"_s;
+    const QString text = u"Time for the 10:30 tea.\r\n<img src='/etc/x.png'>"_s;
     const int width = form.Text_Width(text);
     EXPECT_GT(width, form.Text_Width(u"Time for the 10:30"_s));
     form.Put_Text(text, width, form.Line_Width());
@@ -155,6 +158,9 @@ TEST_F(MainFormTest, Text_moves_over_the_line_without_repainting_the_strip) {
     QCoreApplication::processEvents();
     EXPECT_EQ(form.Label1->geometry(), QRect(3, 0, width, 13));
     EXPECT_EQ(form.Label1->toolTip(), text);
+    QHelpEvent pause(QEvent::ToolTip, {}, {});
+    QApplication::sendEvent(form.Label1, &pause);
+    EXPECT_TRUE(QToolTip::text().contains("&lt;img"_L1)) << "no markup, and no picture";
     struct PaintCounter : QObject {
         int count = 0;
         bool eventFilter(QObject*, QEvent* event) override {

@@ -14,6 +14,7 @@
 #include <QImage>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QTcpServer>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
@@ -137,10 +138,16 @@ TEST_F(HelpViewer, Nothing_is_read_from_outside_of_its_folder) {
     picture.fill(Qt::green);
     picture.save(folder + u"/green.png"_s);
     Write_File(system.paths.Program_Folder() + u"/outside.css"_s, "p { background-color: red; }");
-    Write_File(folder + u"/one.html"_s,
-               "<html><head><link rel='stylesheet' type='text/css' href='../outside.css'></head>"
-               "<body><p>text</p><img src='green.png'><img src='../red.png'><img src='" +
-                   outside.toUtf8() + "'><p><a href='https://example.org/x?y=1'>b</a></p>");
+    QTcpServer web;
+    ASSERT_TRUE(web.listen(QHostAddress::LocalHost));
+    const QByteArray there = "http://127.0.0.1:" + QByteArray::number(web.serverPort()) + "/x";
+    Write_File(
+        folder + u"/one.html"_s,
+        "<html><head><link rel='stylesheet' type='text/css' href='../outside.css'>"
+        "<link rel='stylesheet' type='text/css' href='" +
+            there + "'></head><body background='" + there + "'><p>text</p><img src='" + there +
+            "'><img src='//127.0.0.1/x'><img src='green.png'><img src='../red.png'><img src='" +
+            outside.toUtf8() + "'><p><a href='https://example.org/x?y=1'>b</a></p>");
     Show_HelpPage(u"one.html"_s);
     const QImage seen = Browser()->grab().toImage();
     const auto count = [&seen](QColor color) {
@@ -149,6 +156,7 @@ TEST_F(HelpViewer, Nothing_is_read_from_outside_of_its_folder) {
             found += seen.pixelColor(at % seen.width(), at / seen.width()) == color ? 1 : 0;
         return found;
     };
+    EXPECT_FALSE(web.waitForNewConnection(0));
     EXPECT_EQ(count(Qt::red), 0);
     EXPECT_EQ(count(Qt::green), 40 * 40) << "at the size at which it was taken";
     QTest::keyClick(Browser(), Qt::Key_Tab);
