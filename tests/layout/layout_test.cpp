@@ -19,7 +19,6 @@
 #include "editors/list/card_list.h"
 #include "editors/list/frm_reminder_edit.h"
 #include "editors/list/reminder_edit.h"
-#include "editors/pages/date_page.h"
 #include "editors/pages/page_controls.h"
 #include "editors/wizard/frm_add_reminder_wizard.h"
 #include "editors/wizard/frm_quick_add_reminder.h"
@@ -134,9 +133,10 @@ TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_the_list_window) {
     Look(u"a word"_s);
     frmReminderEdit* list = Open_ReminderEdit();
     Look(u"no selection"_s);
+    auto* tabs = list->findChild<CoolTab*>();
     list->SelectReminder_Using_ListRow(0);
-    for (int page = 0; page < list->CoolTab1->TabCount(); ++page) {
-        list->CoolTab1->Choose(page);
+    for (int page = 0; page < tabs->TabCount(); ++page) {
+        tabs->Choose(page);
         Look(u"page %1"_s.arg(page));
         if (page == 1 && !list->findChildren<TimeField*>().isEmpty()) {
             for (TimeField* field : list->findChildren<TimeField*>())
@@ -147,7 +147,7 @@ TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_the_list_window) {
             Look(u"clock"_s);
         }
     }
-    list->CoolTab1->Choose(2);
+    tabs->Choose(2);
     Press(u"Edit function of button 1"_s);
     Look(u"function editor"_s);
     Global_Reminders[0].Reminder->rs_DisabledForToday = Read_Moment().Today;

@@ -1,12 +1,17 @@
 #include "editors/list/card_list.h"
 
+#include "controls/accessible.h"
 #include "controls/metrics.h"
+#include "controls/painting.h"
+#include "controls/palette.h"
 #include "controls/text_fields.h"
-#include "editors/list/card_list_accessible.h"
 #include "editors/list/click_label.h"
 #include "editors/list/list_rules.h"
 
+#include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <limits>
@@ -14,40 +19,66 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int Label12Top = 20;
-constexpr int Label15Top = 36;
+
+constexpr int NothingTop = 20;
+constexpr int ShowAllTop = 36;
 constexpr int LabelLeft = 8;
+constexpr int WheelStep = 120; // of an ordinary wheel: one card
+
+// A list whose items are the cards.
+class AccessibleCard : public AccessiblePress<CardView> {
+public:
+    explicit AccessibleCard(CardView* card) : AccessiblePress(card, QAccessible::ListItem) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State told = QAccessibleWidget::state();
+        told.selectable = true;
+        told.selected = Own()->Is_Highlighted();
+        return told;
+    }
+
+protected:
+    void Press() override { Q_EMIT Own()->Click(); }
+};
+
+class AccessibleList : public QAccessibleWidget {
+public:
+    explicit AccessibleList(CardList* list) : QAccessibleWidget(list, QAccessible::List) {}
+};
+
 } // namespace
 
 CardList::CardList(int height, QWidget* parent) : QWidget(parent) {
-    Install_CardAccessibility();
+    Install_Accessible<CardView, AccessibleCard>();
+    Install_Accessible<CardList, AccessibleList>();
     setFocusPolicy(Qt::StrongFocus);
     setFont(Small_Font());
     setAccessibleName(u"Reminders"_s);
     resize(CardWidth + BarWidth, height);
-    Picture9 = new QWidget(this);
-    Picture9->setGeometry(0, 0, CardWidth, height);
-    VScroll2 = new QScrollBar(Qt::Vertical, this);
-    VScroll2->setGeometry(CardWidth, 0, BarWidth, height);
-    VScroll2->setSingleStep(CardPitch);
-    VScroll2->setPageStep(height);
-    Label12 = new QLabel(u"No reminders in this category"_s, this);
-    Label12->move(LabelLeft, Label12Top);
-    Label12->adjustSize();
-    Label15 =
-        new ClickLabel(u"Click here to view all the reminders"_s, LabelLeft, Label15Top, this);
-    Label15->setCursor(Qt::PointingHandCursor);
-    Label15->Look_Clickable();
-    Label15->setFocusPolicy(Qt::StrongFocus);
-    connect(VScroll2, &QScrollBar::valueChanged, this, &CardList::Lay_Out);
+    inside = new QWidget(this);
+    inside->setGeometry(0, 0, CardWidth, height);
+    scrollBar = new QScrollBar(Qt::Vertical, this);
+    scrollBar->setGeometry(CardWidth, 0, BarWidth, height);
+    scrollBar->setSingleStep(CardPitch);
+    scrollBar->setPageStep(height);
+    nothing = new QLabel(u"No reminders in this category"_s, this);
+    nothing->move(LabelLeft, NothingTop);
+    nothing->adjustSize();
+    showAll =
+        new ClickLabel(u"Click here to view all the reminders"_s, LabelLeft, ShowAllTop, this);
+    showAll->setCursor(Qt::PointingHandCursor);
+    showAll->Look_Clickable();
+    showAll->setFocusPolicy(Qt::StrongFocus);
+    connect(showAll, &ClickLabel::Click, this, &CardList::All_Asked);
+    connect(scrollBar, &QScrollBar::valueChanged, this, &CardList::Lay_Out);
 }
 
 CardView* CardList::Add_Card() {
-    auto* card = new CardView(Picture9);
+    auto* card = new CardView(inside);
     // A control made later would come behind all others of the window.
-    setTabOrder(cards.empty() ? Label15 : static_cast<QWidget*>(cards.back()->p1ChkImage),
-                card->Text12);
-    setTabOrder(card->Text12, card->p1ChkImage);
+    setTabOrder(cards.empty() ? showAll : static_cast<QWidget*>(cards.back()->EnabledBox),
+                card->Text);
+    setTabOrder(card->Text, card->EnabledBox);
     cards.push_back(card);
     connect(card, &CardView::Click, this, [this, card] {
         setFocus(Qt::MouseFocusReason);
@@ -55,18 +86,18 @@ CardView* CardList::Add_Card() {
         Mark_Current();
         Q_EMIT Card_Chosen(card->Reminder);
     });
-    connect(card, &CardView::Text12_Click, this, [this, card] {
+    connect(card, &CardView::Text_Click, this, [this, card] {
         const ReminderRef chosen = card->Reminder;
         Q_EMIT Card_Chosen(chosen);
         if (card->Reminder == chosen && card->Is_Highlighted())
-            Q_EMIT Text12_Click(card->Text12);
+            Select_SampleText(*card->Text);
     });
-    connect(card, &CardView::Text12_Change, this, [this, card] {
+    connect(card, &CardView::Text_Changed, this, [this, card] {
         if (card->Is_Highlighted())
-            Q_EMIT Text12_Change(Plain_Text(*card->Text12));
+            Q_EMIT Text_Changed(card->Text->Text());
     });
     connect(card, &CardView::Enabled_Changed, this, [this, card] {
-        Q_EMIT Enabled_Changed(card->Reminder, card->p1ChkImage->Is_Ticked());
+        Q_EMIT Enabled_Changed(card->Reminder, card->EnabledBox->Is_Ticked());
     });
     return card;
 }
@@ -79,9 +110,9 @@ void CardList::Set_Slots(std::vector<std::int32_t> newSlots) {
     slots = std::move(newSlots);
     const int count = static_cast<int>(slots.size());
     const bool any = count > 0;
-    Label12->setVisible(!any);
-    Label15->setVisible(!any);
-    Picture9->setVisible(any);
+    nothing->setVisible(!any);
+    showAll->setVisible(!any);
+    inside->setVisible(any);
     const std::int64_t content = std::int64_t{CardPitch} * count;
     const std::int64_t hidden =
         std::clamp<std::int64_t>(content - height(), 0, std::numeric_limits<int>::max());
@@ -89,10 +120,10 @@ void CardList::Set_Slots(std::vector<std::int32_t> newSlots) {
     currentRow = row == -1 ? std::min(currentRow, count - 1) : row;
     current = Reminder_At(currentRow);
     {
-        const QSignalBlocker still(VScroll2);
-        VScroll2->setRange(0, static_cast<int>(hidden));
+        const QSignalBlocker still(scrollBar);
+        scrollBar->setRange(0, static_cast<int>(hidden));
     }
-    VScroll2->setVisible(any && content >= height());
+    scrollBar->setVisible(any && content >= height());
     const auto wanted = static_cast<std::size_t>(std::min(count, Visible_Rows()));
     while (cards.size() < wanted)
         Add_Card();
@@ -139,11 +170,11 @@ void CardList::Show_Row(CardView& card, int row) {
     const std::int32_t slot = slots[static_cast<std::size_t>(row)];
     const ReminderRef reminder = ReminderRef::Of_Slot(slot);
     // Who was typing on the card must not go on in another reminder.
-    if (card.Reminder != reminder && (card.Text12->hasFocus() || card.p1ChkImage->hasFocus()))
+    if (card.Reminder != reminder && (card.Text->hasFocus() || card.EnabledBox->hasFocus()))
         setFocus();
     // Nor must it be undone into one.
     if (card.Reminder != reminder)
-        card.Text12->document()->clearUndoRedoStacks();
+        card.Text->document()->clearUndoRedoStacks();
     card.Reminder = reminder;
     card.Row = row;
     // Somebody else may have taken reminders away since the rows were made.
@@ -155,13 +186,13 @@ void CardList::Show_Row(CardView& card, int row) {
 
 void CardList::Lay_Out() {
     const int count = static_cast<int>(slots.size());
-    const int top = VScroll2->value();
+    const int top = scrollBar->value();
     const int first = top / CardPitch;
     const int end = std::min<int>(count, (top + height() - 1) / CardPitch + 1);
     for (CardView* card : cards)
         if (card->Row < first || card->Row >= end) {
             card->Row = -1;
-            if (card->Text12->hasFocus() || card->p1ChkImage->hasFocus())
+            if (card->Text->hasFocus() || card->EnabledBox->hasFocus())
                 setFocus();
             card->hide();
         }
@@ -189,7 +220,7 @@ void CardList::Refresh_Row_Icons() {
             continue;
         const bool isSelected = card->Reminder == selected;
         card->Set_Icon(isSelected && selectedIcon ? *selectedIcon : reminder->rs_Icon,
-                       card->p1ChkImage->Is_Ticked() ? IconColors::Color : IconColors::Grey);
+                       card->EnabledBox->Is_Ticked() ? IconColors::Color : IconColors::Grey);
     }
 }
 
@@ -228,4 +259,93 @@ void CardList::Set_SelectedNextRun(Day nextRun) {
     selectedNextRun = nextRun;
     if (CardView* card = Card_Of(selected))
         card->Set_NextRun(NextRun_Caption(nextRun), nextRun == Get_TodayDay());
+}
+
+void CardList::Mark_Current() {
+    for (CardView* card : cards)
+        card->Set_Current(hasFocus() && card->Row != -1 && card->Row == currentRow);
+    update();
+}
+
+void CardList::Set_CurrentRow(int row) {
+    Note_Current(std::clamp(row, -1, static_cast<int>(slots.size()) - 1));
+    Bring_IntoView(currentRow);
+    Mark_Current();
+}
+
+void CardList::Bring_IntoView(int row) {
+    if (row < 0)
+        return;
+    const auto top = static_cast<int>(std::int64_t{row} * CardPitch);
+    const int least = top + CardPitch - height();
+    if (scrollBar->value() > top)
+        scrollBar->setValue(top);
+    else if (scrollBar->value() < least)
+        scrollBar->setValue(least);
+}
+
+// -1 for a key that moves nowhere.
+int CardList::Row_ForKey(int key) const {
+    const int last = static_cast<int>(slots.size()) - 1;
+    const int page = std::max(1, height() / CardPitch);
+    switch (key) {
+    case Qt::Key_Up:
+        return std::max(0, currentRow - 1);
+    case Qt::Key_Down:
+        return std::min(last, currentRow + 1);
+    case Qt::Key_PageUp:
+        return std::max(0, currentRow - page);
+    case Qt::Key_PageDown:
+        return std::min(last, currentRow + page);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return last;
+    default:
+        return -1;
+    }
+}
+
+void CardList::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const int row = hasFocus() && !slots.empty() ? Row_ForKey(key) : -1;
+    if (!hasFocus())
+        QWidget::keyPressEvent(event);
+    else if (row != -1)
+        Set_CurrentRow(row);
+    else if (event->matches(QKeySequence::Copy))
+        Q_EMIT Copy_Pressed(current);
+    else if (event->matches(QKeySequence::Paste))
+        Q_EMIT Paste_Pressed();
+    else if (key == Qt::Key_Delete)
+        Q_EMIT Delete_Pressed(current);
+    else if (currentRow != -1 &&
+             (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
+        Q_EMIT Card_Chosen(current);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void CardList::wheelEvent(QWheelEvent* event) {
+    scrollBar->setValue(scrollBar->value() - event->angleDelta().y() * CardPitch / WheelStep);
+    event->accept();
+}
+
+void CardList::focusInEvent(QFocusEvent* event) {
+    if (currentRow == -1 && !slots.empty())
+        Note_Current(std::max(0, Row_Of(selected)));
+    if (event->reason() == Qt::MouseFocusReason)
+        Mark_Current();
+    else
+        Set_CurrentRow(currentRow);
+}
+
+void CardList::focusOutEvent(QFocusEvent*) {
+    Mark_Current();
+}
+
+void CardList::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (slots.empty() && hasFocus())
+        Draw_Frame(painter, rect(), palette::To_Color(palette::Focus_Mark));
 }

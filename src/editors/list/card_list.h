@@ -41,21 +41,18 @@ public:
     void Set_CurrentRow(int row);
     int Current_Row() const { return currentRow; }
     void Bring_IntoView(int row);
-    int Card_Count() const { return static_cast<int>(cards.size()); }
-    QScrollBar* VScroll2 = nullptr;
-    QLabel* Label12 = nullptr;
-    ClickLabel* Label15 = nullptr;
 
 Q_SIGNALS:
     void Card_Chosen(const ReminderRef& reminder);
-    void Text12_Click(CardText* box);
     // Typed into the selected card.
-    void Text12_Change(const QString& text);
+    void Text_Changed(const QString& text);
     void Enabled_Changed(const ReminderRef& reminder, bool ticked);
     // On the reminder that the frame stands on.
     void Delete_Pressed(const ReminderRef& reminder);
     void Copy_Pressed(const ReminderRef& reminder);
     void Paste_Pressed();
+    // By a click on the words of an empty category: for all reminders.
+    void All_Asked();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -76,7 +73,10 @@ private:
     int Visible_Rows() const;
 
     std::vector<std::int32_t> slots;
-    QWidget* Picture9 = nullptr;  // the window onto the cards
+    QWidget* inside = nullptr; // the window onto the cards
+    QScrollBar* scrollBar = nullptr;
+    QLabel* nothing = nullptr;
+    ClickLabel* showAll = nullptr;
     std::vector<CardView*> cards; // row r stands on card r modulo their number
     ReminderRef selected;
     std::optional<QString> selectedIcon;

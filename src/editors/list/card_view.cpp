@@ -94,19 +94,19 @@ void CardText::wheelEvent(QWheelEvent* event) {
 CardView::CardView(QWidget* parent) : QWidget(parent) {
     resize(CardWidth, CardHeight);
     setFont(Small_Font());
-    Text12 = new CardText(this);
+    Text = new CardText(this);
     // The frames run around it.
-    Text12->setGeometry(TextLeft, TextTop, CardWidth - TextLeft - 2, TextHeight);
-    p1ChkImage = new ChkBox(u"Enabled"_s, TextLeft, CheckTop, this);
-    p1ChkImage->setFocusPolicy(Qt::ClickFocus);
+    Text->setGeometry(TextLeft, TextTop, CardWidth - TextLeft - 2, TextHeight);
+    EnabledBox = new ChkBox(u"Enabled"_s, TextLeft, CheckTop, this);
+    EnabledBox->setFocusPolicy(Qt::ClickFocus);
     Color_Text();
-    connect(Text12, &CardText::Click, this, &CardView::Text12_Click);
-    connect(Text12, &QPlainTextEdit::textChanged, this, [this] {
+    connect(Text, &CardText::Click, this, &CardView::Text_Click);
+    connect(Text, &QPlainTextEdit::textChanged, this, [this] {
         if (!showing)
-            Q_EMIT Text12_Change();
+            Q_EMIT Text_Changed();
     });
-    connect(p1ChkImage, &ChkBox::Checked, this, &CardView::Enabled_Changed);
-    connect(p1ChkImage, &ChkBox::Unchecked, this, &CardView::Enabled_Changed);
+    connect(EnabledBox, &ChkBox::Checked, this, &CardView::Enabled_Changed);
+    connect(EnabledBox, &ChkBox::Unchecked, this, &CardView::Enabled_Changed);
 }
 
 void CardView::Show_Content(const CardContent& shown) {
@@ -115,8 +115,8 @@ void CardView::Show_Content(const CardContent& shown) {
     Set_Icon(shown.Icon, shown.Colors);
     Set_NextRun(shown.NextRun, shown.RunsToday);
     content = shown;
-    Text12->resize(Text12->width(), TextHeight - Disabled_Raise());
-    p1ChkImage->Set_Ticked(shown.Enabled && !shown.DisabledForToday);
+    Text->resize(Text->width(), TextHeight - Disabled_Raise());
+    EnabledBox->Set_Ticked(shown.Enabled && !shown.DisabledForToday);
     update();
 }
 
@@ -131,18 +131,18 @@ void CardView::Set_Title(const QString& title) {
     // Names cost their time when a screen reader is told of each change.
     if (accessibleName() != title) {
         setAccessibleName(title);
-        Text12->setAccessibleName(u"Text of %1"_s.arg(title));
-        p1ChkImage->setAccessibleName(u"Enabled: %1"_s.arg(title));
+        Text->setAccessibleName(u"Text of %1"_s.arg(title));
+        EnabledBox->setAccessibleName(u"Enabled: %1"_s.arg(title));
     }
     update();
 }
 
 void CardView::Set_Text(const QString& text) {
     content.Text = text;
-    if (Plain_Text(*Text12) == text)
+    if (Plain_Text(*Text) == text)
         return;
     showing = true;
-    Text12->setPlainText(text);
+    Text->setPlainText(text);
     showing = false;
 }
 
@@ -160,18 +160,18 @@ void CardView::Set_Icon(const QString& name, IconColors colors) {
 }
 
 void CardView::Color_Text() {
-    QPalette colors = Text12->palette();
+    QPalette colors = Text->palette();
     for (const auto role : {QPalette::Base, QPalette::Window})
         colors.setColor(role, palette::To_Color(highlighted ? HighlightFill : palette::White));
-    Text12->setPalette(colors);
+    Text->setPalette(colors);
 }
 
 void CardView::Set_Highlight(bool on) {
     highlighted = on;
-    Text12->setReadOnly(!on);
+    Text->setReadOnly(!on);
     // The keyboard's way leads through the controls of the selected card only.
-    Text12->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
-    p1ChkImage->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+    Text->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+    EnabledBox->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
     Color_Text();
     update();
 }

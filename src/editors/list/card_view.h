@@ -71,13 +71,13 @@ public:
 
     const CardContent& Content() const { return content; }
     bool Is_Highlighted() const { return highlighted; }
-    CardText* Text12 = nullptr;
-    ChkBox* p1ChkImage = nullptr; // "Enabled"
+    CardText* Text = nullptr;
+    ChkBox* EnabledBox = nullptr;
 
 Q_SIGNALS:
     void Click();
-    void Text12_Click();
-    void Text12_Change();
+    void Text_Click();
+    void Text_Changed();
     void Enabled_Changed();
 
 protected:

@@ -15,18 +15,12 @@ class frmRE_FunctionEdit : public Form {
 public:
     explicit frmRE_FunctionEdit(QWidget* owner);
 
-    // Set by the caller before UpdateView.
-    ReminderRef wOBJ;
-    int Index = 0; // of the function, 0..3
-
-    void UpdateView();
-
-    std::array<ChkBox*, FunctionBoxCount> p0ChkImage{};
-    std::array<QLineEdit*, FirstSizeBox> Text10{};
+    // number: of the function, 0..3.
+    void Edit(const ReminderRef& ofReminder, int number);
 
 Q_SIGNALS:
     // The record has the new function.
-    void Function_Changed();
+    void Function_Changed(const ReminderRef& reminder);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -36,6 +30,11 @@ private:
     FunctionBoxes Boxes() const;
     void Set_Boxes(const FunctionBoxes& boxes);
     void Tick(int box);
-    void wbButton1_Click(); // Ok
-    void wbButton3_Click(); // choose a file
+    void Ok_Click();
+    void Browse_Click();
+
+    ReminderRef reminder;
+    int index = 0;
+    std::array<ChkBox*, FunctionBoxCount> boxes{};
+    std::array<QLineEdit*, FirstSizeBox> paths{};
 };

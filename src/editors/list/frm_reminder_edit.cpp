@@ -4,23 +4,28 @@
 #include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/cool_tab.h"
+#include "controls/field_word.h"
 #include "controls/help_topic.h"
-#include "controls/icons.h"
-#include "controls/metrics.h"
 #include "controls/painting.h"
+#include "controls/program_end.h"
+#include "controls/text_fields.h"
 #include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
+#include "core/categories.h"
+#include "delivery/deliver.h"
 #include "editors/list/card_list.h"
-#include "editors/list/click_label.h"
+#include "editors/list/copy_buffer.h"
+#include "editors/list/frm_re_function_edit.h"
 #include "editors/list/list_rules.h"
+#include "editors/list/message_page.h"
 #include "editors/list/misc_page.h"
-#include "editors/list/page_labels.h"
 #include "editors/list/sound_page.h"
 #include "editors/pages/date_page.h"
 #include "editors/pages/hour_page.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QShortcut>
@@ -53,6 +58,8 @@ constexpr int Tip_List = 20;
 constexpr int ErrorShapeTime = 10000; // ms
 constexpr int RefreshTime = 60000;
 
+const QString nothingSelected = u"Click on a reminder in the list first."_s;
+
 // What AdjustForSmallScreen takes from the list and the window.
 int Screen_Loss() {
     return The_Screen().height() < SmallScreenHeight ? SmallScreenLoss : 0;
@@ -68,163 +75,124 @@ frmReminderEdit::frmReminderEdit() : filter(FilterAll) {
     Build_List(ListHeight - loss);
     Build_Buttons(ListTop + ListHeight - loss + 6);
     Build_Pages();
-    Connect_Pages();
     Add_Shortcuts();
     Place_OnScreen();
-    Update_Category_Combos(FilterText::Reset);
+    Update_Filter(FilterText::Reset);
     UpdateReminderView();
     shownDay = Get_TodayDay();
-    HideErrorShapeTimer.setInterval(ErrorShapeTime);
-    connect(&HideErrorShapeTimer, &QTimer::timeout, this,
-            &frmReminderEdit::HideErrorShapeTimer_Tick);
-    HideErrorShapeTimer.start();
+    hideErrorShapeTimer.setInterval(ErrorShapeTime);
+    connect(&hideErrorShapeTimer, &QTimer::timeout, this, [this] {
+        if (!platform::Dialogs::Get().Holds_Timers())
+            Hide_ErrorShapes();
+    });
+    hideErrorShapeTimer.start();
     refreshTimer.setInterval(RefreshTime);
     connect(&refreshTimer, &QTimer::timeout, this, &frmReminderEdit::RefreshTimer_Tick);
 }
 
-frmReminderEdit::~frmReminderEdit() = default;
-
 void frmReminderEdit::Build_List(int listHeight) {
     QLabel* label = Add_Label(u"Show Category:"_s, ListLeft + 2, 12);
-    Combo2 = new ComboBox(this);
-    Combo2->setGeometry(ListLeft + 92, 8, 194, 22);
-    Name_Combo(Combo2, u"Show Category"_s, label);
+    filterBox = new ComboBox(this);
+    filterBox->setGeometry(ListLeft + 92, 8, 194, 22);
+    Name_Combo(filterBox, u"Show Category"_s, label);
     new TooltipPicture(Tip_List, ListLeft + 292, 11, this);
     Add_Label(u"Click on a reminder to select it. Use the \"New\" button to add a new reminder"_s,
               ListLeft + 2, 34, CardWidth);
-    Cards = new CardList(listHeight, this);
-    Cards->move(ListLeft, ListTop);
-    connect(Combo2, &QComboBox::activated, this, &frmReminderEdit::Combo2_Click);
-    connect(Cards->Label15, &ClickLabel::Click, this, [this] {
-        Combo2->setCurrentIndex(0);
-        Combo2_Click();
+    cards = new CardList(listHeight, this);
+    cards->move(ListLeft, ListTop);
+    connect(filterBox, &QComboBox::activated, this, &frmReminderEdit::Filter_Chosen);
+    connect(cards, &CardList::All_Asked, this, [this] {
+        filterBox->setCurrentIndex(0);
+        Filter_Chosen();
     });
-    connect(Cards, &CardList::Card_Chosen, this, &frmReminderEdit::Select_Reminder);
-    connect(Cards, &CardList::Text12_Click, this,
-            [](CardText* box) { MessagePage::Select_SampleText(box); });
-    connect(Cards, &CardList::Text12_Change, this, &frmReminderEdit::Card_Text_Changed);
-    connect(Cards, &CardList::Enabled_Changed, this, &frmReminderEdit::Row_Enabled_Changed);
+    connect(cards, &CardList::Card_Chosen, this, &frmReminderEdit::Select_Reminder);
+    connect(cards, &CardList::Text_Changed, this, &frmReminderEdit::Text_Typed);
+    connect(cards, &CardList::Enabled_Changed, this, &frmReminderEdit::Row_Enabled_Changed);
     // A key acts on the card that wears the frame: it is selected first.
-    connect(Cards, &CardList::Delete_Pressed, this, [this](const ReminderRef& reminder) {
+    connect(cards, &CardList::Delete_Pressed, this, [this](const ReminderRef& reminder) {
         if (Is_SelectedNow(reminder))
             Delete_Click();
     });
-    connect(Cards, &CardList::Copy_Pressed, this, [this](const ReminderRef& reminder) {
+    connect(cards, &CardList::Copy_Pressed, this, [this](const ReminderRef& reminder) {
         if (Is_SelectedNow(reminder))
             Copy_Click();
     });
-    connect(Cards, &CardList::Paste_Pressed, this, &frmReminderEdit::Paste_Click);
+    connect(cards, &CardList::Paste_Pressed, this, &frmReminderEdit::Paste_Click);
 }
 
 void frmReminderEdit::Build_Buttons(int top) {
     const int below = top + ButtonHeight + ButtonGap;
-    const struct {
-        wbButton*& Button;
-        QString Caption, Tip;
-        IconName Icon;
-        int Left, Top, Width;
-        void (frmReminderEdit::*Action)();
-    } rows[] = {
-        {wbButton5,
-         u"      New"_s,
-         {},
-         IconName::NewItem,
-         0,
-         top,
-         100,
-         &frmReminderEdit::New_Click},
-        {wbButton6,
-         u"        Delete"_s,
-         {},
-         IconName::DeleteItem,
-         104,
-         top,
-         100,
-         &frmReminderEdit::Delete_Click},
-        {wbButton8,
-         u"       Copy"_s,
-         {},
-         IconName::CopyItem,
-         0,
-         below,
-         100,
-         &frmReminderEdit::Copy_Click},
-        {wbButton9,
-         u"       Paste"_s,
-         {},
-         IconName::PasteItem,
-         104,
-         below,
-         100,
-         &frmReminderEdit::Paste_Click},
-        {wbButton10, u"     Run"_s, u"Test the reminder"_s, IconName::RunItem, 208, top, 101,
-         &frmReminderEdit::Test_Click},
-        {wbButton14, {}, u"Help (F1)"_s, IconName::Help, 208, below, 101, nullptr},
-    };
-    for (const auto& row : rows) {
+    const auto Add = [this](const QString& caption, IconName icon, const QPoint& place, int width,
+                            auto action) {
         auto* button = new wbButton(this);
-        button->setGeometry(ListLeft + row.Left, row.Top, row.Width, ButtonHeight);
-        button->Set_Caption(row.Caption);
-        const QSize icon = Icon_Size(row.Icon);
-        button->Set_Picture(Load_Icon(row.Icon), icon);
-        button->Set_CenterImage(row.Caption.isEmpty());
+        button->setGeometry(ListLeft + place.x(), place.y(), width, ButtonHeight);
+        button->Set_Caption(caption);
+        const QSize size = Icon_Size(icon);
+        button->Set_Picture(Load_Icon(icon), size);
+        button->Set_CenterImage(caption.isEmpty());
         button->Set_ImageLEFT(8);
-        button->Set_ImageTOP((ButtonHeight - icon.height()) / 2);
-        button->Set_ToolTipTextLabel(row.Tip);
-        if (!row.Caption.isEmpty())
-            button->setAccessibleName(row.Caption.trimmed());
-        if (row.Action != nullptr)
-            connect(button, &wbButton::Click, this, row.Action);
-        row.Button = button;
-    }
-    connect(wbButton14, &wbButton::Click, this, [] { Show_HelpPage(help_page::Reminders); });
+        button->Set_ImageTOP((ButtonHeight - size.height()) / 2);
+        if (!caption.isEmpty())
+            button->setAccessibleName(caption.trimmed());
+        connect(button, &wbButton::Click, this, action);
+        return button;
+    };
+    Add(u"      New"_s, IconName::NewItem, {0, top}, 100, &frmReminderEdit::New_Click);
+    deleteButton = Add(u"        Delete"_s, IconName::DeleteItem, {104, top}, 100,
+                       &frmReminderEdit::Delete_Click);
+    copyButton =
+        Add(u"       Copy"_s, IconName::CopyItem, {0, below}, 100, &frmReminderEdit::Copy_Click);
+    Add(u"       Paste"_s, IconName::PasteItem, {104, below}, 100, &frmReminderEdit::Paste_Click);
+    runButton =
+        Add(u"     Run"_s, IconName::RunItem, {208, top}, 101, &frmReminderEdit::Test_Click);
+    runButton->Set_ToolTipTextLabel(u"Test the reminder"_s);
+    Add({}, IconName::Help, {208, below}, 101, [] {
+        Show_HelpPage(help_page::Reminders);
+    })->Set_ToolTipTextLabel(u"Help (F1)"_s);
 }
 
 void frmReminderEdit::Build_Pages() {
-    CoolTab1 = new CoolTab(this);
-    CoolTab1->setGeometry(PageLeft, TabTop, PageWidth, PageTop - TabTop - 1);
-    CoolTab1->Set_Tabs(u"-1;Date Setup;-1;Hours Setup;-1;Message;-1;Sound;-1;Misc"_s);
-    CoolTab1->setAccessibleName(u"Pages of the reminder"_s);
-    CoolTab1->Select(static_cast<int>(CurrentPage));
-    Picture2 = new DatePage(*this, this);
-    Picture3 = new HourPage(*this, this);
-    Picture6 = new MessagePage(this);
-    Picture7 = new SoundPage(this);
-    Picture10 = new MiscPage(this);
-    for (int page = 0; page < CoolTab1->TabCount(); ++page)
-        Page_Widget(page)->setGeometry(PageLeft, PageTop, PageWidth, PageHeight);
-    Hide_All_Pages();
-}
-
-void frmReminderEdit::Connect_Pages() {
-    connect(CoolTab1, &CoolTab::TabSelected, this, &frmReminderEdit::Set_CurrentPage);
-    connect(Picture6, &MessagePage::Title_Changed, this, &frmReminderEdit::Title_Changed);
-    connect(Picture6, &MessagePage::Text_Changed, this, &frmReminderEdit::Text_Changed);
-    connect(Picture6, &MessagePage::Function_Enable_Changed, this,
-            &frmReminderEdit::Function_Enable_Changed);
-    connect(Picture6, &MessagePage::Edit_Function, this, &frmReminderEdit::Edit_Function);
-    connect(Picture10, &MiscPage::Category_Chosen, this, &frmReminderEdit::Combo1_Click);
-    connect(Picture10, &MiscPage::Delete_Category_Clicked, this,
-            &frmReminderEdit::Delete_Category_Click);
-    connect(Picture10, &MiscPage::Use_Icon_Clicked, this, &frmReminderEdit::Use_Icon_Click);
-    connect(Picture10, &MiscPage::No_Icon_Clicked, this, &frmReminderEdit::No_Icon_Click);
-    connect(Picture10->IconSelIMG, &IconPalette::Icon_Clicked, this,
-            [this](const QString& name) { Select_Icon_By_Name(name, CardIcon::Update); });
+    tabs = new CoolTab(this);
+    tabs->setGeometry(PageLeft, TabTop, PageWidth, PageTop - TabTop - 1);
+    tabs->Set_Tabs(u"-1;Date Setup;-1;Hours Setup;-1;Message;-1;Sound;-1;Misc"_s);
+    tabs->setAccessibleName(u"Pages of the reminder"_s);
+    tabs->Select(static_cast<int>(currentPage));
+    pages = {datePage = new DatePage(*this, this), hourPage = new HourPage(*this, this),
+             messagePage = new MessagePage(this), soundPage = new SoundPage(this),
+             miscPage = new MiscPage(*this, this)};
+    for (ReminderPage* page : pages) {
+        page->setGeometry(PageLeft, PageTop, PageWidth, PageHeight);
+        page->hide();
+    }
+    connect(tabs, &CoolTab::TabSelected, this,
+            [this](int tab) { Set_CurrentPage(static_cast<EditPage>(tab)); });
+    connect(datePage, &DatePage::NextRun_Changed, cards, &CardList::Set_SelectedNextRun);
+    connect(hourPage, &HourPage::Condition_Added, this,
+            [this](const HourSetup& condition) { refused.Condition_Added(condition); });
+    connect(messagePage, &MessagePage::Title_Changed, this, &frmReminderEdit::Title_Typed);
+    connect(messagePage, &MessagePage::Text_Changed, this, &frmReminderEdit::Text_Typed);
+    connect(messagePage, &MessagePage::Function_Enabled, this, &frmReminderEdit::Function_Enabled);
+    connect(messagePage, &MessagePage::Edit_Function, this, &frmReminderEdit::Edit_Function);
+    connect(miscPage, &MiscPage::Icon_Chosen, cards, &CardList::Set_SelectedIcon);
+    connect(miscPage, &MiscPage::Icons_Changed, cards, &CardList::Refresh_Row_Icons);
+    connect(miscPage, &MiscPage::Category_Deleted, this, [this] {
+        Update_Filter(FilterText::Reset);
+        // The reminder stays selected; its pages are not loaded again.
+        Refresh_View();
+    });
 }
 
 void frmReminderEdit::Add_Shortcuts() {
     const auto Turn_Page = [this](int step) {
-        const int count = CoolTab1->TabCount();
-        const int page = (static_cast<int>(CurrentPage) + step + count) % count;
-        CoolTab1->Select(page);
-        Set_CurrentPage(page);
+        const int page = (static_cast<int>(currentPage) + step + EditPageCount) % EditPageCount;
+        Show_Page(static_cast<EditPage>(page));
     };
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_N), this), &QShortcut::activated, this,
-            &frmReminderEdit::New_Click);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), this), &QShortcut::activated, this,
-            [Turn_Page] { Turn_Page(1); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), this),
-            &QShortcut::activated, this, [Turn_Page] { Turn_Page(-1); });
+    const auto Add = [this](QKeyCombination keys, auto action) {
+        connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, action);
+    };
+    Add(Qt::CTRL | Qt::Key_N, &frmReminderEdit::New_Click);
+    Add(Qt::CTRL | Qt::Key_Tab, [Turn_Page] { Turn_Page(1); });
+    Add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [Turn_Page] { Turn_Page(-1); });
 }
 
 void frmReminderEdit::Place_OnScreen() {
@@ -237,4 +205,387 @@ void frmReminderEdit::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     Draw_Frame(painter, QRect(PageLeft - 1, PageTop - 1, PageWidth + 2, height() - PageTop - 6),
                palette::To_Color(palette::Outline));
+}
+
+// Which reminder is selected.
+
+int frmReminderEdit::SelectedRow() const {
+    return cards->Row_Of(selection);
+}
+
+void frmReminderEdit::UpdateReminderView() {
+    cards->Set_Slots(Visible_Slots(filter));
+}
+
+void frmReminderEdit::SelectReminder_Using_RListIndex(std::int32_t index) {
+    Refresh_View();
+    const ReminderRef target = ReminderRef::Of_Slot(index);
+    const int row = cards->Row_Of(target);
+    if (row == -1)
+        return;
+    cards->Set_CurrentRow(row);
+    Select_Reminder(target);
+}
+
+void frmReminderEdit::SelectReminder_Using_ListRow(int row) {
+    if (row >= 0 && row < static_cast<int>(cards->Slots().size()))
+        Select_Reminder(ReminderRef::Of_Slot(cards->Slots()[static_cast<std::size_t>(row)]));
+}
+
+void frmReminderEdit::Select_Reminder(const ReminderRef& target) {
+    const ReminderRef wanted = target; // the caller's may be a card's, which can change
+    if (wanted.Slot() == -1) {
+        Refresh_View();
+        return;
+    }
+    if (wanted == selection)
+        return;
+    if (Selected_Reminder() != nullptr) {
+        Hide_Popups();
+        if (!Save_View_To_Reminder(CategoryOnSave::Take) || Program_Is_Ending())
+            return;
+        if (categoryChanged) {
+            Update_Filter(FilterText::Keep);
+            UpdateReminderView();
+        }
+    }
+    selection = wanted;
+    refused.Save_Done();
+    cards->Set_Selected(selection);
+    Hide_ErrorShapes();
+    Load_Reminder_To_View();
+    if (Selected_Reminder() != nullptr)
+        Set_CurrentPage(currentPage);
+    else
+        Refresh_View();
+}
+
+bool frmReminderEdit::Is_SelectedNow(const ReminderRef& target) {
+    const ReminderRef wanted = target;
+    if (!wanted.Is_Set())
+        return false;
+    Select_Reminder(wanted);
+    return selection == wanted && Selected_Reminder() != nullptr && !Program_Is_Ending();
+}
+
+void frmReminderEdit::Show_NewCard(const ReminderRef& added) {
+    UpdateReminderView();
+    const int row = cards->Row_Of(added);
+    if (selection.Is_Set())
+        cards->Bring_IntoView(row);
+    else
+        cards->Set_CurrentRow(row);
+}
+
+void frmReminderEdit::Drop_Selection() {
+    selection = {};
+    refused.Save_Done();
+    cards->Set_Selected({});
+    Hide_Popups();
+    for (ReminderPage* page : pages)
+        page->hide();
+}
+
+void frmReminderEdit::Update_Filter(FilterText text) {
+    Sync_CategoriesFromReminders();
+    const QStringList names = Category_Names();
+    if (names != shownNames || filterBox->count() == 0) {
+        shownNames = names;
+        const QString before = filterBox->currentText();
+        filterBox->clear();
+        filterBox->addItems(QStringList{FilterAll, FilterNone} + names);
+        filterBox->setCurrentIndex(std::max(0, filterBox->findText(before, Qt::MatchFixedString)));
+        miscPage->Set_Categories(names);
+    }
+    if (text == FilterText::Reset)
+        filterBox->setCurrentIndex(0);
+    // What the list shows stays while a choice in the box waits for its save.
+    if (text == FilterText::Reset || filterBox->findText(filter, Qt::MatchFixedString) == -1)
+        filter = filterBox->currentText();
+}
+
+// Also a choice of the filter that is chosen already saves and drops the selection.
+void frmReminderEdit::Filter_Chosen() {
+    if (!Save_View_To_Reminder(CategoryOnSave::Take)) {
+        filterBox->setCurrentIndex(std::max(0, filterBox->findText(filter, Qt::MatchFixedString)));
+        return;
+    }
+    if (Program_Is_Ending())
+        return;
+    Update_Filter(FilterText::Keep);
+    filter = filterBox->currentText();
+    Drop_Selection();
+    UpdateReminderView();
+    cards->Set_CurrentRow(cards->Slots().empty() ? -1 : 0);
+}
+
+void frmReminderEdit::Refresh_View() {
+    if (Is_Unloading())
+        return;
+    if (selection.Is_Set() && selection.Slot() == -1)
+        Drop_Selection();
+    Update_Filter(FilterText::Keep);
+    UpdateReminderView();
+}
+
+void frmReminderEdit::RefreshTimer_Tick() {
+    if (platform::Dialogs::Get().Holds_Timers() || Program_Is_Ending())
+        return;
+    Refresh_View();
+    const Day today = Get_TodayDay();
+    if (today != shownDay)
+        datePage->Update_NextRun();
+    shownDay = today;
+}
+
+// The pages of the selected reminder.
+
+void frmReminderEdit::Show_Page(EditPage page) {
+    tabs->Select(static_cast<int>(page));
+    Set_CurrentPage(page);
+}
+
+void frmReminderEdit::Set_CurrentPage(EditPage page) {
+    currentPage = page;
+    if (Selected_Reminder() == nullptr)
+        return;
+    for (ReminderPage* other : pages)
+        if (other != Page(page))
+            other->Hide_Popup();
+    if (page != EditPage::Message && functionEdit != nullptr)
+        functionEdit->Unload();
+    Page(page)->show();
+    for (ReminderPage* other : pages)
+        if (other != Page(page))
+            other->hide();
+}
+
+void frmReminderEdit::Hide_Popups() {
+    for (ReminderPage* page : pages)
+        page->Hide_Popup();
+    if (functionEdit != nullptr)
+        functionEdit->Unload();
+}
+
+void frmReminderEdit::Hide_ErrorShapes() {
+    for (ReminderPage* page : pages)
+        page->Hide_Marks();
+}
+
+void frmReminderEdit::Load_Reminder_To_View() {
+    const ReminderClass* reminder = selection.Peek();
+    if (reminder == nullptr)
+        return;
+    const ReminderClass record = *reminder;
+    for (ReminderPage* page : pages)
+        if (page != datePage)
+            page->Load(record);
+    // Last: it may show a box, under which the reminder can go.
+    datePage->Load(record);
+}
+
+bool frmReminderEdit::Save_View_To_Reminder(CategoryOnSave category) {
+    return Save_View(category, ShowErrors::Yes);
+}
+
+// The first field at fault ends the save.
+bool frmReminderEdit::Save_View(CategoryOnSave category, ShowErrors show) {
+    ReminderClass* reminder = Selected_Reminder();
+    if (reminder == nullptr)
+        return true;
+    refused.Save_Begins(selection);
+    datePage->Update_NextRun();
+    const QString before = reminder->rs_Category;
+    for (int number = 0; number < EditPageCount; ++number) {
+        const auto page = static_cast<EditPage>(number);
+        const QString fault = Page(page)->Store(*reminder);
+        if (fault.isEmpty())
+            continue;
+        refused.Save_Refused(page);
+        if (show == ShowErrors::Yes)
+            Show_Fault(page, fault);
+        return false;
+    }
+    if (category == CategoryOnSave::Keep)
+        reminder->rs_Category = before;
+    categoryChanged = reminder->rs_Category != before;
+    Sync_CategoriesFromReminders();
+    refused.Save_Done();
+    return true;
+}
+
+void frmReminderEdit::Show_Fault(EditPage page, const QString& fault) {
+    const QPointer<frmReminderEdit> alive(this);
+    platform::Dialogs::Get().Message(fault, platform::BoxStyle::Exclamation);
+    if (!alive)
+        return;
+    Show_Page(page);
+    Page(page)->Mark_Fault();
+    hideErrorShapeTimer.start();
+}
+
+bool frmReminderEdit::Store_OpenPage() {
+    if (Save_View(CategoryOnSave::Take, ShowErrors::No))
+        return true;
+    refused.Restore(selection);
+    return false;
+}
+
+void frmReminderEdit::Restore_RefusedPage() {
+    refused.Restore(selection);
+}
+
+void frmReminderEdit::Title_Typed(const QString& title) {
+    ReminderClass* reminder = Selected_Reminder();
+    if (reminder == nullptr)
+        return;
+    reminder->rs_Title = title;
+    if (CardView* card = cards->Card_Of(selection))
+        card->Set_Title(title);
+}
+
+// On the card or on the page: the other one follows.
+void frmReminderEdit::Text_Typed(const QString& text) {
+    ReminderClass* reminder = Selected_Reminder();
+    if (reminder == nullptr)
+        return;
+    reminder->rs_Text = Text_ForRecord(text, reminder->rs_Text);
+    messagePage->Set_Text(text);
+    if (CardView* card = cards->Card_Of(selection))
+        card->Set_Text(text);
+}
+
+void frmReminderEdit::Row_Enabled_Changed(const ReminderRef& changed, bool ticked) {
+    if (ReminderClass* reminder = changed.Get()) {
+        if (ticked)
+            reminder->rs_DisabledForToday = 0;
+        reminder->rs_Enabled = ticked;
+    }
+    Refresh_View();
+}
+
+void frmReminderEdit::Function_Enabled(int k, bool on) {
+    ReminderClass* reminder = Selected_Reminder();
+    if (reminder == nullptr)
+        return;
+    FunctionEntry entry = reminder->GetFuncion(k);
+    entry.Enabled = on;
+    reminder->SetFuncion(k, entry);
+}
+
+void frmReminderEdit::Edit_Function(int k) {
+    if (Selected_Reminder() == nullptr)
+        return;
+    if (functionEdit == nullptr || functionEdit->Is_Unloading()) {
+        functionEdit = new frmRE_FunctionEdit(this);
+        connect(functionEdit, &frmRE_FunctionEdit::Function_Changed, this,
+                [this](const ReminderRef& changed) {
+                    const ReminderClass* reminder = selection.Peek();
+                    if (reminder != nullptr && changed == selection)
+                        messagePage->Show_Functions(*reminder);
+                });
+    }
+    functionEdit->Edit(selection, k);
+    functionEdit->Present();
+}
+
+// The buttons below the list.
+
+// The new reminder is not selected: the pages stay with the one that is.
+void frmReminderEdit::New_Click() {
+    Save_SelectedIcon();
+    Show_NewCard(Add_New_Reminder(Category_OfNew(filter)));
+}
+
+void frmReminderEdit::Delete_Click() {
+    const ReminderClass* reminder = selection.Peek();
+    if (reminder == nullptr) {
+        Say_AtField(deleteButton, nothingSelected);
+        return;
+    }
+    const ReminderRef doomed = selection;
+    const platform::Answer answer = platform::Dialogs::Get().Question(
+        Delete_Question(*reminder, Read_Moment()), false, {.Title = u"Confirm"_s});
+    if (answer != platform::Answer::Yes || Program_Is_Ending())
+        return;
+    Delete_ReminderSlot(doomed.Slot());
+    Drop_Selection();
+    Refresh_View();
+    cards->setFocus();
+}
+
+void frmReminderEdit::Copy_Click() {
+    if (selection.Peek() == nullptr)
+        Say_AtField(copyButton, nothingSelected);
+    if (!Save_View_To_Reminder(CategoryOnSave::Take))
+        return;
+    const ReminderClass* reminder = selection.Peek();
+    if (reminder != nullptr && !Write_CopyBuffer(*reminder))
+        platform::Dialogs::Get().Message(u"The reminder can't be copied: the file \"temp.dat\" "
+                                         "can't be written"_s,
+                                         platform::BoxStyle::Exclamation);
+}
+
+void frmReminderEdit::Paste_Click() {
+    Save_SelectedIcon();
+    std::unique_ptr<ReminderClass> pasted;
+    switch (Read_CopyBuffer(pasted)) {
+    case PasteResult::Nothing:
+        return;
+    case PasteResult::Damaged:
+        platform::Dialogs::Get().Message(u"The copied reminder can't be read"_s,
+                                         platform::BoxStyle::Exclamation);
+        return;
+    case PasteResult::Pasted:
+        break;
+    }
+    pasted->rs_Category = Category_OfPasted(filter);
+    Show_NewCard(Add_Reminder(std::move(pasted)));
+}
+
+void frmReminderEdit::Test_Click() {
+    if (selection.Peek() == nullptr)
+        Say_AtField(runButton, nothingSelected);
+    if (Selected_Reminder() == nullptr || !Save_View_To_Reminder(CategoryOnSave::Keep) ||
+        Program_Is_Ending())
+        return;
+    if (const std::int32_t slot = selection.Slot(); slot != -1)
+        Deliver_Reminder(slot);
+}
+
+void frmReminderEdit::Save_SelectedIcon() {
+    if (ReminderClass* reminder = Selected_Reminder())
+        reminder->rs_Icon = miscPage->Icon_Name().toLower();
+}
+
+// The window.
+
+bool frmReminderEdit::Query_Unload(UnloadMode mode) {
+    // A record with a field at fault is not left behind, unless the system closes the window.
+    return mode == UnloadMode::Ending || Save_View_To_Reminder(CategoryOnSave::Take);
+}
+
+void frmReminderEdit::On_Unload() {
+    Hide_Popups();
+    hourPage->Unload_Popup();
+    soundPage->Stop_Sound();
+    hideErrorShapeTimer.stop();
+    refreshTimer.stop();
+}
+
+bool frmReminderEdit::event(QEvent* event) {
+    const bool taken = Form::event(event);
+    if (event->type() == QEvent::WindowActivate && !Program_Is_Ending())
+        Refresh_View();
+    return taken;
+}
+
+void frmReminderEdit::showEvent(QShowEvent* event) {
+    refreshTimer.start();
+    Form::showEvent(event);
+}
+
+void frmReminderEdit::hideEvent(QHideEvent* event) {
+    refreshTimer.stop();
+    Form::hideEvent(event);
 }

@@ -63,7 +63,7 @@ IconPalette::IconPalette(QWidget* parent) : QWidget(parent) {
                 [this, frame] { Q_EMIT Icon_Clicked(frame->Tag); });
         connect(frame, &IconSelectPicture::Go, this,
                 [this, index](int columns, int rows) { Go_From(index, columns, rows); });
-        Frames[At(index)] = frame;
+        frames[At(index)] = frame;
     }
     resize(Columns * FramePitch, ReminderIconCount / Columns * FramePitch);
     Set_TabStop(0);
@@ -72,7 +72,7 @@ IconPalette::IconPalette(QWidget* parent) : QWidget(parent) {
 void IconPalette::Select_Icon_By_Name(const QString& name) {
     selected = -1;
     for (int index = 0; index < ReminderIconCount; ++index) {
-        IconSelectPicture* frame = Frames[At(index)];
+        IconSelectPicture* frame = frames[At(index)];
         const bool matches = frame->Tag.compare(name.trimmed(), Qt::CaseInsensitive) == 0;
         frame->setChecked(matches);
         if (matches)
@@ -83,13 +83,13 @@ void IconPalette::Select_Icon_By_Name(const QString& name) {
 }
 
 QString IconPalette::Selected_Name() const {
-    return selected == -1 ? QString() : Frames[At(selected)]->Tag;
+    return selected == -1 ? QString() : frames[At(selected)]->Tag;
 }
 
 // One of them takes part in the tab order; the arrow keys do the rest.
 void IconPalette::Set_TabStop(int index) {
     for (int each = 0; each < ReminderIconCount; ++each)
-        Frames[At(each)]->setFocusPolicy(each == index ? Qt::StrongFocus : Qt::ClickFocus);
+        frames[At(each)]->setFocusPolicy(each == index ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void IconPalette::Go_From(int index, int columns, int rows) {
@@ -97,5 +97,5 @@ void IconPalette::Go_From(int index, int columns, int rows) {
     if (target < 0 || target >= ReminderIconCount)
         return;
     Set_TabStop(target);
-    Frames[At(target)]->setFocus(Qt::TabFocusReason);
+    frames[At(target)]->setFocus(Qt::TabFocusReason);
 }

@@ -38,9 +38,6 @@ public:
     // As the palette spells it; empty when none is chosen.
     QString Selected_Name() const;
 
-    static constexpr int Columns = 6;
-    std::array<IconSelectPicture*, ReminderIconCount> Frames{};
-
 Q_SIGNALS:
     void Icon_Clicked(const QString& name);
 
@@ -48,5 +45,7 @@ private:
     void Go_From(int index, int columns, int rows);
     void Set_TabStop(int index);
 
+    static constexpr int Columns = 6;
+    std::array<IconSelectPicture*, ReminderIconCount> frames{};
     int selected = -1;
 };

@@ -1,5 +1,6 @@
 #include "editors/list/list_rules.h"
 
+#include "controls/text_fields.h"
 #include "core/date_text.h"
 
 #include <algorithm>
@@ -38,21 +39,6 @@ std::vector<std::int32_t> Visible_Slots(const QString& filter) {
     return slots;
 }
 
-std::vector<std::int32_t> Keep_Category(const std::vector<std::int32_t>& slots,
-                                        const QString& category) {
-    QString wanted = category.trimmed();
-    if (Same_Text(wanted, FilterAll))
-        return slots;
-    if (Same_Text(wanted, FilterNone))
-        wanted.clear();
-    std::vector<std::int32_t> kept;
-    for (const std::int32_t slot : slots)
-        if (Global_Reminders[static_cast<std::size_t>(slot)].Used &&
-            Same_Text(Reminder_At(slot).rs_Category, wanted))
-            kept.push_back(slot);
-    return kept;
-}
-
 QString NextRun_Caption(Day nextRun) {
     if (nextRun == NoDay)
         return u"( )"_s;
@@ -85,6 +71,11 @@ QString Category_OfPasted(const QString& filter) {
 
 bool Is_SampleText(const QString& text) {
     return text.isEmpty() || text == "..."_L1 || Same_Text(text, u"insert text here"_s);
+}
+
+void Select_SampleText(QPlainTextEdit& box) {
+    if (Is_SampleText(Plain_Text(box)))
+        box.selectAll();
 }
 
 ReminderRef Add_New_Reminder(const QString& category) {

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <vector>
 
+class QPlainTextEdit;
+
 // The first two items of the filter box.
 extern const QString FilterAll;
 extern const QString FilterNone;
@@ -16,9 +18,6 @@ extern const QString FilterNone;
 // Slots of the reminders that the filter shows, in the order of the table. filter: the text of the
 // filter box.
 std::vector<std::int32_t> Visible_Slots(const QString& filter);
-// The slots of rows whose reminder is of the category. "-- (All)" keeps all.
-std::vector<std::int32_t> Keep_Category(const std::vector<std::int32_t>& slots,
-                                        const QString& category);
 
 // What a card says beside its title: "(Tomorrow)", "( )" for -1.
 QString NextRun_Caption(Day nextRun);
@@ -34,6 +33,8 @@ QString Category_OfPasted(const QString& filter);
 
 // A text that only stands for one still to be typed.
 bool Is_SampleText(const QString& text);
+// Selects it, so that the first letter takes its place.
+void Select_SampleText(QPlainTextEdit& box);
 
 // A used reminder with a new number and default values.
 ReminderRef Add_New_Reminder(const QString& category);

@@ -1,52 +1,33 @@
 // "Message": what the reminder says, how it is displayed, and its four buttons.
 #pragma once
 
-#include "controls/chk_box.h"
-#include "controls/text_fields.h"
-#include "core/reminder.h"
-#include "editors/list/click_label.h"
-
-#include <QWidget>
+#include "editors/pages/reminder_page.h"
 
 #include <array>
 
+class ChkBox;
+class ClickLabel;
+class MemoField;
 class QButtonGroup;
 class QLineEdit;
-class QRadioButton;
-class wbButton;
 
-enum class TitlesOfFunctions { Keep, Update };
-
-class MessagePage : public QWidget {
+class MessagePage : public ReminderPage {
     Q_OBJECT
 public:
     explicit MessagePage(QWidget* parent);
 
-    // The examples that a reminder without these settings shows.
-    void Clear_View();
-    void Load_View(const ReminderClass& reminder);
-    void Save_View(ReminderClass& reminder);
-    // The four functions; Keep leaves the titles that are being typed.
-    void UpdateFunctions(const ReminderClass& wOBJ, TitlesOfFunctions titles);
+    void Load(const ReminderClass& reminder) override;
+    QString Store(ReminderClass& reminder) override;
+    // The four functions without their captions, which may be being typed.
+    void Show_Functions(const ReminderClass& reminder);
     // Without telling.
     void Set_Text(const QString& text);
-    // Selects a text that only stands for one to be typed.
-    static void Select_SampleText(QPlainTextEdit* box);
-
-    static constexpr int DisplayModes = 3;
-    static constexpr int MinimizeBox = 4;
-    QLineEdit* Text9 = nullptr;
-    MemoField* Text8 = nullptr;
-    std::array<QRadioButton*, DisplayModes> Option2{};
-    std::array<ChkBox*, MinimizeBox + 1> p6ChkImage{};
-    std::array<QLineEdit*, ReminderClass::FunctionCount> Text10{};
-    std::array<ClickLabel*, ReminderClass::FunctionCount> Label32{};
-    std::array<wbButton*, ReminderClass::FunctionCount> wbButton3{};
 
 Q_SIGNALS:
+    // By the user.
     void Title_Changed(const QString& title);
     void Text_Changed(const QString& text);
-    void Function_Enable_Changed(int k);
+    void Function_Enabled(int k, bool on);
     void Edit_Function(int k);
 
 protected:
@@ -55,14 +36,21 @@ protected:
 private:
     void Build_Text();
     void Build_DisplayMode();
-    void Build_Function(int k);
-    void Option2_Click(int i);
-    void Set_FunctionText(int k, const QString& text);
-    void Text9_LostFocus(Qt::FocusReason reason);
+    void Build_Function(std::size_t k);
+    void Mode_Chosen(int mode);
+    void Title_Left(Qt::FocusReason reason);
 
+    QLineEdit* title = nullptr;
+    MemoField* text = nullptr;
     QButtonGroup* modes = nullptr;
-    // As the boxes show the record's, which may hold what no box can show.
+    ChkBox* minimize = nullptr;
+    struct FunctionRow {
+        ChkBox* Enabled = nullptr;
+        QLineEdit* Caption = nullptr;
+        ClickLabel* Function = nullptr;
+        QString ShownCaption; // as the field shows the record's, which may hold what no field can
+    };
+    std::array<FunctionRow, ReminderClass::FunctionCount> functions;
     QString shownTitle;
-    std::array<QString, ReminderClass::FunctionCount> shownCaptions;
     bool showing = false; // by the program: not an edit
 };

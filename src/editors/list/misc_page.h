@@ -1,31 +1,41 @@
-// "Misc": the category and the icon.
+// "Misc": the category and the icon of the reminder, and what is done to categories themselves.
 #pragma once
 
 #include "editors/list/icon_palette.h"
+#include "editors/pages/reminder_page.h"
 
 #include <QStringList>
-#include <QWidget>
 
 class ComboBox;
 
-class MiscPage : public QWidget {
+class MiscPage : public ReminderPage {
     Q_OBJECT
 public:
-    explicit MiscPage(QWidget* parent);
+    MiscPage(EditHost& editHost, QWidget* parent);
 
-    // The text stays.
+    void Load(const ReminderClass& reminder) override;
+    QString Store(ReminderClass& reminder) override;
+    // What the box offers; its text stays.
     void Set_Categories(const QStringList& names);
-    QString CategoryText() const;
-    // Tells nobody.
-    void Set_CategoryText(const QString& text);
-
-    ComboBox* Combo1 = nullptr;
-    IconPalette* IconSelIMG = nullptr;
+    // Of the chosen icon; empty: none.
+    QString Icon_Name() const { return icons->Selected_Name().trimmed(); }
 
 Q_SIGNALS:
-    // From the list of the box.
+    // By the user, not stored yet.
+    void Icon_Chosen(const QString& name);
+    // The table of categories has changed, or the icons of reminders have.
+    void Category_Deleted();
+    void Icons_Changed();
+
+private:
+    void Show_Category(const ReminderClass* reminder);
+    void Set_CategoryText(const QString& text);
+    void Choose_Icon(const QString& name);
     void Category_Chosen(const QString& name);
-    void Delete_Category_Clicked(); // wbButton11
-    void Use_Icon_Clicked();        // wbButton12
-    void No_Icon_Clicked();         // wbButton13
+    void Delete_Click();
+    void UseIcon_Click();
+
+    EditHost& host;
+    ComboBox* category = nullptr;
+    IconPalette* icons = nullptr;
 };

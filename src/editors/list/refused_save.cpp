@@ -29,22 +29,20 @@ void Copy_Hours(const ReminderClass& from, ReminderClass& to) {
 } // namespace
 
 void RefusedSave::Save_Begins(const ReminderRef& target) {
-    if ((isOpen || isRefused) && target == reminder)
+    if (isRefused && target == reminder)
         return;
     const ReminderClass* record = target.Peek();
     reminder = target;
     before.reset();
     if (record != nullptr)
         before = *record;
-    isOpen = true;
     isRefused = false;
     hoursTouched = false;
 }
 
-void RefusedSave::Save_Refused(RefusedPart part) {
-    isOpen = false;
+void RefusedSave::Save_Refused(EditPage page) {
     isRefused = true;
-    hoursTouched = hoursTouched || part == RefusedPart::Hours;
+    hoursTouched = hoursTouched || page == EditPage::HoursSetup;
 }
 
 void RefusedSave::Save_Done() {

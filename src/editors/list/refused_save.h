@@ -3,17 +3,16 @@
 #pragma once
 
 #include "core/reminder_ref.h"
+#include "editors/pages/reminder_page.h"
 
 #include <optional>
 
-enum class RefusedPart { Date, Hours };
-
 class RefusedSave {
 public:
-    // Before each save. The record of a first refused one is kept until a save succeeds; also while
-    // the box of a refused one is open, under which the program may end and save once more.
+    // Before each save. The record of a first refused one is kept until a save succeeds.
     void Save_Begins(const ReminderRef& target);
-    void Save_Refused(RefusedPart part);
+    // Before its box, under which the program may end and save once more.
+    void Save_Refused(EditPage page);
     void Save_Done();
     // A condition that the record has got besides.
     void Condition_Added(const HourSetup& condition);
@@ -24,7 +23,6 @@ public:
 private:
     ReminderRef reminder;
     std::optional<ReminderClass> before;
-    bool isOpen = false; // begun, and neither refused nor done
     bool isRefused = false;
     bool hoursTouched = false;
 };

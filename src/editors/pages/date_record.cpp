@@ -1,6 +1,5 @@
-#include "editors/pages/date_record.h"
-
 #include "core/date_text.h"
+#include "editors/pages/date_rules.h"
 
 using namespace Qt::StringLiterals;
 using namespace date_box;
@@ -59,9 +58,9 @@ std::optional<DateFault> Save_Weekdays(const DatePageState& state, const StoredD
     if (!state.Tick(Weeks))
         return std::nullopt;
     reminder.rs_ReWeeks =
-        Stands(state.Text1, stored.Text1)
+        Stands(state.Weeks, stored.WeeksText)
             ? stored.ReWeeks
-            : static_cast<std::int16_t>(Number_UpTo(state.Text1, LargestInterval));
+            : static_cast<std::int16_t>(Number_UpTo(state.Weeks, LargestInterval));
     if (reminder.rs_ReWeeks == 0)
         return DateFault{u"Invalid Every X weeks value"_s, ErrorMark::Weeks};
     return std::nullopt;
@@ -74,8 +73,8 @@ DateFault Invalid_Days() {
 
 std::optional<DateFault> Save_EveryXDays(const DatePageState& state, const StoredDate& stored,
                                          ReminderClass& reminder) {
-    const int days = Stands(state.Text3, stored.Text3) ? stored.ReDays
-                                                       : Number_UpTo(state.Text3, LargestInterval);
+    const int days = Stands(state.Days, stored.DaysText) ? stored.ReDays
+                                                         : Number_UpTo(state.Days, LargestInterval);
     if (days == 0)
         return Invalid_Days();
     reminder.rs_ReDays = static_cast<std::int16_t>(days);
@@ -85,9 +84,9 @@ std::optional<DateFault> Save_EveryXDays(const DatePageState& state, const Store
 
 std::optional<DateFault> Save_DayOfMonth(const DatePageState& state, const StoredDate& stored,
                                          ReminderClass& reminder) {
-    const int day = Stands(state.Text2, stored.Text2)
+    const int day = Stands(state.DayOfMonth, stored.DayOfMonthText)
                         ? stored.DayOfMonth
-                        : Number_UpTo(DigitsOnly(state.Text2), LargestDayOfMonth);
+                        : Number_UpTo(DigitsOnly(state.DayOfMonth), LargestDayOfMonth);
     if (day == 0)
         return Invalid_Days();
     reminder.rs_REDayOfMonth = day;
@@ -107,8 +106,8 @@ void Save_StoredDate(const StoredDate& stored, ReminderClass& reminder, const Mo
 std::optional<DateFault> Save_TypedDate(const DatePageState& state, const StoredDate& stored,
                                         ReminderClass& reminder, const Moment& now) {
     CalendarDate date;
-    const QString& text = state.Text4[ExactField];
-    if (Stands(text, stored.Text4[ExactField])) {
+    const QString& text = state.Dates[ExactField];
+    if (Stands(text, stored.DateTexts[ExactField])) {
         Save_StoredDate(stored, reminder, now);
         return std::nullopt;
     }
@@ -175,9 +174,9 @@ Day Get_Start_Date(const DatePageState& state, const StoredDate& stored, const M
     if (state.Tick(StartTomorrow))
         start = Start_Day(state, StartTomorrow, now);
     if (state.Tick(StartOn)) {
-        const QString& text = state.Text4[StartField];
-        start = Stands(text, stored.Text4[StartField]) ? stored.ActivationDay
-                                                       : ParseUserDateToDay(text, {});
+        const QString& text = state.Dates[StartField];
+        start = Stands(text, stored.DateTexts[StartField]) ? stored.ActivationDay
+                                                           : ParseUserDateToDay(text, {});
         if (start == NoDay) {
             fault = {u"Invalid (Days setup) start date: \r\n"_s + text, ErrorMark::StartField};
             return StartDate_Failed;
@@ -206,15 +205,15 @@ StoredDate Stored_Date(const DatePageState& state, const ReminderClass& reminder
     stored.SRLongday = reminder.rs_SRLongday;
     stored.ActivationDay = reminder.rs_ActivationDay;
     if (stored.ReWeeks != 0)
-        stored.Text1 = state.Text1;
+        stored.WeeksText = state.Weeks;
     if (stored.DayOfMonth != 0)
-        stored.Text2 = state.Text2;
+        stored.DayOfMonthText = state.DayOfMonth;
     if (stored.ReDays != 0)
-        stored.Text3 = state.Text3;
+        stored.DaysText = state.Days;
     if (stored.SRLongday != 0 && state.Tick(OnDate))
-        stored.Text4[ExactField] = state.Text4[ExactField];
+        stored.DateTexts[ExactField] = state.Dates[ExactField];
     if (stored.ActivationDay != 0 && state.Tick(StartOn))
-        stored.Text4[StartField] = state.Text4[StartField];
+        stored.DateTexts[StartField] = state.Dates[StartField];
     return stored;
 }
 
@@ -235,10 +234,10 @@ std::optional<DateFault> Save_DateSetup(const DatePageState& state, const Stored
 
 DatePageState Cleared_DatePage(const Moment& now) {
     DatePageState state;
-    state.Text1 = u"2"_s;
-    state.Text2 = u"2nd"_s;
-    state.Text3 = u"2"_s;
-    state.Text4.fill(DayToDateString(now.Today));
+    state.Weeks = u"2"_s;
+    state.DayOfMonth = u"2nd"_s;
+    state.Days = u"2"_s;
+    state.Dates.fill(DayToDateString(now.Today));
     return state;
 }
 
@@ -252,25 +251,25 @@ DatePageState Load_DateSetup(const ReminderClass& reminder, const Moment& now) {
         state.Tick(box) = days[static_cast<std::size_t>(box - Monday)] != 0;
     if (reminder.rs_ReWeeks != 0) {
         state.Tick(Weeks) = true;
-        state.Text1 = QString::number(reminder.rs_ReWeeks);
+        state.Weeks = QString::number(reminder.rs_ReWeeks);
     }
     if (reminder.rs_ReDays != 0) {
         state.Tick(EveryXDays) = true;
-        state.Text3 = QString::number(reminder.rs_ReDays);
+        state.Days = QString::number(reminder.rs_ReDays);
     }
     if (reminder.rs_REDayOfMonth != 0) {
         state.Tick(date_box::DayOfMonth) = true;
-        state.Text2 = OrdinalText(reminder.rs_REDayOfMonth);
+        state.DayOfMonth = OrdinalText(reminder.rs_REDayOfMonth);
     }
     if (reminder.rs_SRLongday != 0) {
         state.Tick(OnDate) = true;
         state.Tick(EveryYear) = reminder.rs_SRYear == 0;
-        state.Text4[ExactField] =
+        state.Dates[ExactField] =
             FormatUserDate(reminder.rs_SRDay, reminder.rs_SRMonth, reminder.rs_SRYear, true);
     }
     if (reminder.rs_ActivationDay != 0) {
         state.Tick(StartOn) = true;
-        state.Text4[StartField] = DayToDateString(reminder.rs_ActivationDay);
+        state.Dates[StartField] = DayToDateString(reminder.rs_ActivationDay);
     } else {
         state.Tick(AlwaysActive) = true;
     }

@@ -17,7 +17,7 @@ Day Ticked_On(const DatePageState& state, DateField field, const Moment& now) {
 }
 
 WhichWeek Week_Of(const DatePageState& state, WeekOption next) {
-    return state.Option1[next] ? WhichWeek::Next : WhichWeek::This;
+    return state.WeekOptions[next] ? WhichWeek::Next : WhichWeek::This;
 }
 
 // Radio behaviour by hand: everything in the range but one goes.
@@ -31,8 +31,8 @@ void Clear_Others(DatePageState& state, int first, int last, int kept) {
 // then it is the save that refuses them.
 void Choose_Week_If_None(DatePageState& state, WeekOption thisWeek) {
     const auto at = static_cast<std::size_t>(thisWeek);
-    if (!state.Option1[at] && !state.Option1[at + 1])
-        state.Option1[at] = true;
+    if (!state.WeekOptions[at] && !state.WeekOptions[at + 1])
+        state.WeekOptions[at] = true;
 }
 
 void Exact_Checked(DatePageState& state, int box, const Moment& now) {
@@ -61,7 +61,7 @@ TickOutcome Start_Checked(DatePageState& state, int box, const Moment& now) {
 // Day and month of the text in the exact field.
 std::optional<CalendarDate> Typed_Date(const DatePageState& state, const Moment& now) {
     CalendarDate date;
-    if (ParseUserDate(state.Text4[ExactField], date.day, date.month, date.year, {}, true) != 0)
+    if (ParseUserDate(state.Dates[ExactField], date.day, date.month, date.year, {}, true) != 0)
         return std::nullopt;
     if (date.year == 0)
         date.year = now.Year;
@@ -97,7 +97,7 @@ TickOutcome Date_Option_Checked(DatePageState& state, int box, const Moment& now
         Clear_Others(state, EveryDay, EveryYear, box);
     } else if (box <= ExactSunday) {
         Exact_Checked(state, box, now);
-    } else if (ExactDate_To_Text4(state, MakeEveryYear::Yes, now)) {
+    } else if (ExactDate_To_Field(state, MakeEveryYear::Yes, now)) {
         Clear_Boxes(state, EveryDay, ExactSunday);
         state.Tick(OnDate) = true;
     } else {
@@ -108,15 +108,15 @@ TickOutcome Date_Option_Checked(DatePageState& state, int box, const Moment& now
 
 void Date_Option_Unchecked(DatePageState& state, int box, const Moment& now) {
     if (box == EveryYear)
-        ExactDate_To_Text4(state, MakeEveryYear::No, now);
+        ExactDate_To_Field(state, MakeEveryYear::No, now);
 }
 
 void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& now) {
     const bool exact = option == ExactThis || option == ExactNext;
     const bool next = option == ExactNext || option == StartNext;
     const std::size_t first = exact ? ExactThis : StartThis;
-    state.Option1[first] = !next;
-    state.Option1[first + 1] = next;
+    state.WeekOptions[first] = !next;
+    state.WeekOptions[first + 1] = next;
     state.TickedOn[exact ? ExactField : StartField] = now.Today;
     const int monday = exact ? ExactMonday : StartMonday;
     for (int weekday = 0; weekday < 7; ++weekday) {
@@ -128,12 +128,12 @@ void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& 
     }
 }
 
-bool ExactDate_To_Text4(DatePageState& state, MakeEveryYear make, const Moment& now) {
+bool ExactDate_To_Field(DatePageState& state, MakeEveryYear make, const Moment& now) {
     const std::optional<CalendarDate> date = Exact_Date(state, make, now);
     if (!date)
         return false;
     const bool everyYear = make == MakeEveryYear::Yes;
-    state.Text4[ExactField] =
+    state.Dates[ExactField] =
         FormatUserDate(date->day, date->month, everyYear ? 0 : now.Year, everyYear);
     return true;
 }
@@ -161,7 +161,7 @@ Day Start_Day(const DatePageState& state, int box, const Moment& now) {
 
 CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now) {
     CalendarDate date;
-    const bool read = ParseUserDate(state.Text4[field], date.day, date.month, date.year, {},
+    const bool read = ParseUserDate(state.Dates[field], date.day, date.month, date.year, {},
                                     field == ExactField) == 0;
     if (read && date.year == 0)
         date.year = now.Year;

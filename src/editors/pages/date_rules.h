@@ -1,11 +1,13 @@
-// The boxes of the date page: which tick clears which, and how an exact date becomes text.
+// The date page as plain data: which tick clears which, how an exact date becomes text, and the way
+// to the record and back, with what is refused.
 #pragma once
 
-#include "core/time_routines.h"
+#include "core/reminder.h"
 
 #include <QString>
 
 #include <array>
+#include <limits>
 #include <optional>
 
 // The boxes by their index. The weekdays follow their Monday.
@@ -39,11 +41,11 @@ enum DateField { ExactField = 0, StartField = 1 };
 struct DatePageState {
     std::array<bool, date_box::Count> Ticks{};
     std::array<bool, date_box::Count> Blocked{}; // weekdays that have passed
-    QString Text1;                               // every x weeks
-    QString Text2;                               // day of the month
-    QString Text3;                               // every x days
-    std::array<QString, 2> Text4;                // by DateField
-    std::array<bool, 4> Option1{};               // by WeekOption
+    QString Weeks;
+    QString DayOfMonth;
+    QString Days;
+    std::array<QString, 2> Dates;      // by DateField
+    std::array<bool, 4> WeekOptions{}; // by WeekOption
     // By DateField: the day on which a box was ticked that counts from it; 0 = not by hand.
     std::array<Day, 2> TickedOn{};
 
@@ -64,7 +66,7 @@ void Date_Option_Unchecked(DatePageState& state, int box, const Moment& now);
 void Week_Option_Clicked(DatePageState& state, WeekOption option, const Moment& now);
 
 // Moves the exact date into its field. False: there is none to move.
-bool ExactDate_To_Text4(DatePageState& state, MakeEveryYear make, const Moment& now);
+bool ExactDate_To_Field(DatePageState& state, MakeEveryYear make, const Moment& now);
 // The first tick among the boxes of the exact date.
 std::optional<int> Exact_Tick(const DatePageState& state);
 // "Today", "Tomorrow" and the weekdays mean the day on which they were ticked.
@@ -74,3 +76,52 @@ Day Exact_Day(const DatePageState& state, int box, const Moment& now);
 Day Start_Day(const DatePageState& state, int box, const Moment& now);
 // Where the calendar opens for a field's text; day 0: in the present month, with no day chosen.
 CalendarDate Calendar_Start(const DatePageState& state, DateField field, const Moment& now);
+
+// What a mark can stand around, by the mark's index.
+enum class ErrorMark {
+    Weeks = 0,
+    DayOfMonth = 1, // has a place and is never shown
+    Days = 2,
+    ExactField = 3,
+    ExactWeekdays = 4,
+    StartField = 5,
+    StartWeekdays = 6,
+    HourRow = 7,
+};
+
+struct DateFault {
+    QString Message;
+    ErrorMark Mark = ErrorMark::Weeks;
+};
+
+inline constexpr Day StartDate_Failed = std::numeric_limits<Day>::min();
+
+// What the record gave the page's fields. A field that still stands so is not checked: a limit
+// refuses what was typed, never what was stored. Empty texts, of no record, never match.
+struct StoredDate {
+    QString WeeksText, DayOfMonthText, DaysText;
+    std::array<QString, 2> DateTexts; // by DateField
+    std::int16_t ReWeeks = 0;
+    std::int16_t ReDays = 0;
+    std::int32_t DayOfMonth = 0;
+    std::uint8_t SRDay = 0;
+    std::uint8_t SRMonth = 0;
+    std::int16_t SRYear = 0;
+    Day SRLongday = 0;
+    Day ActivationDay = 0;
+};
+// The fields that show a value of the record.
+StoredDate Stored_Date(const DatePageState& state, const ReminderClass& reminder);
+
+// Day of the start date, 0 = none; StartDate_Failed fills the fault.
+Day Get_Start_Date(const DatePageState& state, const StoredDate& stored, const Moment& now,
+                   DateFault& fault);
+// Nothing: saved. After a fault the record is left cleared until a later save succeeds.
+std::optional<DateFault> Save_DateSetup(const DatePageState& state, const StoredDate& stored,
+                                        ReminderClass& reminder, const Moment& now);
+
+// The samples that a page without a reminder shows.
+DatePageState Cleared_DatePage(const Moment& now);
+DatePageState Load_DateSetup(const ReminderClass& reminder, const Moment& now);
+// What the user has to be told of the record; mostly empty.
+QString DateSetup_Warning(const ReminderClass& reminder);

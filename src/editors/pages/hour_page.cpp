@@ -1,180 +1,235 @@
 #include "editors/pages/hour_page.h"
 
+#include "controls/chk_box.h"
 #include "controls/form.h"
+#include "controls/page_parts.h"
+#include "controls/tooltip_picture.h"
+#include "controls/wb_button.h"
 #include "core/date_text.h"
-#include "editors/pages/hour_page_view.h"
+#include "editors/pages/hour_list.h"
+#include "editors/pages/page_controls.h"
 #include "platform/dialogs.h"
+
+#include <QLabel>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// Pixels.
 constexpr QSize PageSize(470, 440);
+constexpr int Left = 8;
+constexpr int Width = 454;
+constexpr int Indent = 10;
+constexpr QRect ListPlace{Left, 8, Width, 230};
+constexpr int HeadingTop = 247;
+constexpr QRect StartUpFrame{Left, 281, Width, 33};
+constexpr QRect AtFrame{Left, 319, Width, 33};
+constexpr QRect EveryFrame{Left, 357, Width, 75};
+constexpr int FieldsLeft = 56; // of the frame
+constexpr int OptionsLeft = 186;
+constexpr int ButtonWidth = 84;
+constexpr int TooltipMarkRight = 22;
+constexpr int BoxInRow = 3;
+constexpr int LabelInRow = 4;
+constexpr int TimeWidth = 54;
+constexpr int TimeLength = 16; // letters
 
 } // namespace
 
-HourPage::HourPage(EditHost& host, QWidget* parent) : QWidget(parent) {
+HourPage::HourPage(EditHost& editHost, QWidget* parent)
+    : ReminderPage(parent), host(editHost), clock(*this, [this] { wrapperRow = -1; }) {
     resize(PageSize);
     setPalette(Form_Palette());
     setAutoFillBackground(true);
-    view = std::make_unique<View>(*this, host);
-    Connect_List();
-    Connect_Fields();
-    Clear_View();
+    wrapper = new QLineEdit(this);
+    wrapper->hide();
+    connect(wrapper, &QLineEdit::textChanged, this, &HourPage::Clock_Written);
+    Build_List();
+    Build_Simple();
+    Build_Every();
 }
 
-HourPage::~HourPage() = default;
-
-void HourPage::Connect_List() {
-    connect(view->List, &HourList::Tick_Changed, this, [this](int row, bool on) {
-        view->List->Set_Enabled(row, on);
-        if (ReminderClass* reminder = view->host.Selected_Reminder())
+void HourPage::Build_List() {
+    list = new HourList(ListPlace, this);
+    for (const HourRowView* row : list->Views())
+        for (const HourCell cell : {HourCell::Start, HourCell::Until})
+            clock.Watch(row->Field(cell));
+    connect(list, &HourList::Tick_Changed, this, [this](int row, bool on) {
+        list->Set_Enabled(row, on);
+        if (ReminderClass* reminder = host.Selected_Reminder())
             Row_Tick_Changed(*reminder, row);
     });
-    connect(view->List, &HourList::Delete_Click, this, &HourPage::hrDelLabel_Click);
-    connect(view->List, &HourList::Cell_Clicked, this, [this](int row, HourCell cell) {
+    connect(list, &HourList::Delete_Click, this, &HourPage::Delete_Click);
+    connect(list, &HourList::Cell_Clicked, this, [this](int row, HourCell cell) {
         if (cell != HourCell::Period)
             Show_Clock_ForCell(row, cell);
     });
-    connect(view->List, &HourList::Cell_Changed, this, &HourPage::p4Text_Change);
-    connect(view->p4TextWrapper, &QLineEdit::textChanged, this, &HourPage::p4TextWrapper_Change);
+    connect(list, &HourList::Cell_Changed, this, &HourPage::Cell_Typed);
+    const QLabel* heading =
+        Add_Text(this, u"Add new condition:"_s, Left, HeadingTop, TextLook::Heading);
+    new TooltipPicture(10, heading->geometry().right() + 8, HeadingTop - 1, this);
+    Add_Text(this, u"Run:"_s, Left, HeadingTop + 17);
+    for (const QRect& frame : {StartUpFrame, AtFrame, EveryFrame})
+        new Shape(frame, {}, this);
 }
 
-void HourPage::Connect_Fields() {
-    const auto Give_Clock = [this](const QString& name, TimeField* field) {
-        connect(field, &TimeField::Clicked, this, [this, name, field] {
-            view->Clock.Show_Clock_For_Textbox(name, field, ParseTime_Colon(field->text()),
-                                               field->mapToGlobal(QPoint()).y());
-        });
-        connect(field, &QLineEdit::textEdited, this, [this, field] { view->Clock.Follow(field); });
-    };
-    Give_Clock(u"text5"_s, view->Text5);
-    Give_Clock(u"text7"_s, view->Text7);
-    Give_Clock(u"text13"_s, view->Text13);
-    for (std::size_t index = 0; index < 2; ++index)
-        connect(view->p3Chk[index], &ChkBox::Checked, this,
-                [this, index] { view->p3Chk[1 - index]->Set_Ticked(false); });
-    for (const Condition condition : {Condition::AtStartUp, Condition::At, Condition::Every})
-        connect(view->wbButton1[static_cast<std::size_t>(condition)], &wbButton::Click, this,
-                [this, condition] { wbButton1_Click(static_cast<int>(condition)); });
+TimeField* HourPage::Add_TimeField(const QString& spoken, int left, int top) {
+    auto* field = new TimeField(this);
+    pages::Set_UpField(field, spoken, {left, top, TimeWidth, pages::FieldHeight}, TimeLength);
+    clock.Watch(field);
+    connect(field, &TimeField::Clicked, this, [this, spoken, field] {
+        clock.Show_Clock_For_Textbox(spoken, field, ParseTime_Colon(field->text()),
+                                     field->mapToGlobal(QPoint()).y());
+    });
+    connect(field, &QLineEdit::textEdited, this, [this, field] { clock.Follow(field); });
+    return field;
 }
 
-void HourPage::Clear_View() {
-    view->Text5->setText(u"20:30"_s);
-    view->Text6->setText(u"1h30m"_s);
-    view->Text7->setText(u"10:00"_s);
-    view->Text13->setText(u"14:00"_s);
-    view->p3Chk[0]->Set_Ticked(false);
-    view->p3Chk[1]->Set_Ticked(true);
+void HourPage::Add_ToList_Button(Condition condition, int top, const QString& spoken) {
+    wbButton* button = Add_Button(
+        this, u"Add to list"_s,
+        {Left + Width - TooltipMarkRight - 10 - ButtonWidth, top, ButtonWidth, pages::ButtonHeight},
+        u"Add to list: "_s + spoken);
+    connect(button, &wbButton::Click, this, [this, condition] { Add_Click(condition); });
+    new TooltipPicture(11 + static_cast<int>(condition), Left + Width - TooltipMarkRight, top + 4,
+                       this);
 }
 
-void HourPage::Show_HourSetup_List(const ReminderClass& reminder) {
-    Hide_Popup(); // its cell may be another one now
-    view->List->Set_Rows(Rows_Of(reminder));
+void HourPage::Build_Simple() {
+    int row = StartUpFrame.top() + 6;
+    Add_Text(this, u"At start up"_s, Left + Indent, row + LabelInRow, TextLook::Heading);
+    Add_ToList_Button(Condition::AtStartUp, row - 1, u"At start up"_s);
+    row = AtFrame.top() + 6;
+    Add_Text(this, u"At"_s, Left + Indent, row + LabelInRow, TextLook::Heading);
+    at = Add_TimeField(u"At"_s, Left + FieldsLeft, row);
+    Add_ToList_Button(Condition::At, row - 1, u"At"_s);
 }
 
-bool HourPage::Save_HourSetup_List(ShowErrors show) {
-    ReminderClass* reminder = view->host.Selected_Reminder();
-    if (reminder == nullptr)
-        return true;
-    const auto fault = Save_HourRows(view->List->Rows(), *reminder);
-    if (!fault) {
-        view->List->Note_Stored(*reminder);
-        return true;
+void HourPage::Build_Every() {
+    const int row = EveryFrame.top() + 7;
+    Add_Text(this, u"Every"_s, Left + Indent, row + LabelInRow, TextLook::Heading);
+    every = new QLineEdit(this);
+    pages::Set_UpField(every, u"Every"_s, {Left + FieldsLeft, row, TimeWidth, pages::FieldHeight},
+                       TimeLength);
+    Add_Text(this, u"starting:"_s, Left + 118, row + LabelInRow);
+    const int options = Left + OptionsLeft;
+    starts[0] = new ChkBox(u"At"_s, options, row + BoxInRow, this);
+    starts[0]->setAccessibleName(u"Starting at"_s);
+    startingAt = Add_TimeField(u"Starting at"_s, options + 44, row);
+    starts[1] = new ChkBox(u"When the program starts"_s, options, row + 26, this);
+    starts[1]->setAccessibleName(u"Starting when the program starts"_s);
+    for (std::size_t index = 0; index < starts.size(); ++index) {
+        starts[index]->Set_Radio(true);
+        connect(starts[index], &ChkBox::Checked, this,
+                [this, index] { starts[1 - index]->Set_Ticked(false); });
     }
-    if (show == ShowErrors::No)
-        return false;
-    const QPointer<HourPage> alive(this);
-    platform::Dialogs::Get().Message(fault->Message, platform::BoxStyle::Exclamation);
-    if (alive)
-        Show_Error_Shape(fault->Row);
-    return false;
+    Add_Text(this, u"Until"_s, Left + Indent, row + 42 + LabelInRow);
+    until = Add_TimeField(u"Until"_s, Left + FieldsLeft, row + 42);
+    Add_ToList_Button(Condition::Every, row + 41, u"Every"_s);
 }
 
-void HourPage::Show_Error_Shape(int row) {
-    view->host.Show_Page(EditPage::HoursSetup);
-    view->List->Scroll_To(row);
-    view->List->Mark_Error(row);
-    if (HourRowView* rowView = view->List->View_Of(row))
-        rowView->Focus_Chain().back()->setFocus();
-    view->host.Restart_HideErrorShapeTimer();
+void HourPage::Load(const ReminderClass& reminder) {
+    at->setText(u"20:30"_s);
+    every->setText(u"1h30m"_s);
+    startingAt->setText(u"10:00"_s);
+    until->setText(u"14:00"_s);
+    starts[0]->Set_Ticked(false);
+    starts[1]->Set_Ticked(true);
+    Show_Rows(reminder);
 }
 
-void HourPage::wbButton1_Click(int index) {
-    ReminderClass* reminder = view->host.Selected_Reminder();
+void HourPage::Show_Rows(const ReminderClass& reminder) {
+    Hide_Popup(); // its cell may be another one now
+    list->Set_Rows(Rows_Of(reminder));
+}
+
+QString HourPage::Store(ReminderClass& reminder) {
+    if (const auto fault = Save_HourRows(list->Rows(), reminder)) {
+        faultRow = fault->Row;
+        return fault->Message;
+    }
+    list->Note_Stored(reminder);
+    return {};
+}
+
+void HourPage::Mark_Fault() {
+    list->Scroll_To(faultRow);
+    list->Mark_Error(faultRow);
+    if (const HourRowView* view = list->View_Of(faultRow))
+        view->Focus_Chain().back()->setFocus();
+}
+
+void HourPage::Hide_Marks() {
+    list->Mark_Error(-1);
+}
+
+void HourPage::Hide_Popup() {
+    clock.Hide();
+}
+
+void HourPage::Add_Click(Condition condition) {
+    ReminderClass* reminder = host.Selected_Reminder();
     if (reminder == nullptr)
         return;
-    std::vector<HourRow> rows = view->List->Rows();
+    std::vector<HourRow> rows = list->Rows();
     const std::size_t before = rows.size();
-    const QString message =
-        Add_Condition(static_cast<Condition>(index), view->Read_Fields(), rows, *reminder);
+    const ConditionFields fields{at->text(), every->text(), startingAt->text(), until->text(),
+                                 starts[0]->Is_Ticked()};
+    const QString message = Add_Condition(condition, fields, rows, *reminder);
     if (!message.isEmpty()) {
         platform::Dialogs::Get().Message(message, platform::BoxStyle::Exclamation);
     } else if (rows.size() > before) {
-        view->host.Condition_Added(reminder->GetHourSetup(reminder->HourSetupList_Size()));
-        view->List->Set_Rows(std::move(rows));
-        view->List->Scroll_To(static_cast<int>(before));
+        Q_EMIT Condition_Added(reminder->GetHourSetup(reminder->HourSetupList_Size()));
+        list->Set_Rows(std::move(rows));
+        list->Scroll_To(static_cast<int>(before));
     }
 }
 
 // The save protects what has been typed into the other rows; it may show a box.
-void HourPage::hrDelLabel_Click(int row) {
-    const ReminderClass* before = view->host.Selected_Reminder();
+void HourPage::Delete_Click(int row) {
+    const ReminderClass* before = host.Selected_Reminder();
     if (before == nullptr)
         return;
     const std::uint64_t identity = before->Identity.Value();
     const QPointer<HourPage> alive(this);
-    if (!view->host.Save_View_To_Reminder(CategoryOnSave::Take) || !alive)
+    if (!host.Save_View_To_Reminder(CategoryOnSave::Take) || !alive)
         return;
-    ReminderClass* reminder = view->host.Selected_Reminder();
+    ReminderClass* reminder = host.Selected_Reminder();
     if (reminder == nullptr || reminder->Identity.Value() != identity)
         return;
     reminder->DeleteHourSetup(row);
-    Show_HourSetup_List(*reminder);
+    Show_Rows(*reminder);
 }
 
 void HourPage::Show_Clock_ForCell(int row, HourCell cell) {
-    const int index = row * HourRowView::CellCount + static_cast<int>(cell) - 1;
-    const QString name = u"p4text"_s + QString::number(index);
-    const HourRowView* rowView = view->List->View_Of(row);
-    if (rowView == nullptr || view->Clock.Is_On(name))
+    const QString name = u"row %1, cell %2"_s.arg(row).arg(static_cast<int>(cell));
+    const HourRowView* view = list->View_Of(row);
+    if (view == nullptr || clock.Is_On(name))
         return;
     Hide_Popup();
-    view->wrapperCell = cell;
-    view->p4TextWrapper->setText(rowView->p4Text(cell)->text());
-    view->wrapperRow = row;
-    view->Clock.Show_Clock_For_Textbox(name, view->p4TextWrapper,
-                                       ParseTime_Colon(view->p4TextWrapper->text()),
-                                       rowView->p4Text(cell)->mapToGlobal(QPoint()).y());
+    const TimeField* field = view->Field(cell);
+    wrapperCell = cell;
+    wrapper->setText(field->text());
+    wrapperRow = row;
+    clock.Show_Clock_For_Textbox(name, wrapper, ParseTime_Colon(wrapper->text()),
+                                 field->mapToGlobal(QPoint()).y());
 }
 
-// The clock has written: its time goes to the cell.
-void HourPage::p4TextWrapper_Change(const QString& text) {
-    if (view->p4TextWrapper_Locked || view->wrapperRow < 0)
+void HourPage::Clock_Written(const QString& text) {
+    if (copying || wrapperRow < 0)
         return;
-    view->p4TextWrapper_Locked = true;
-    view->List->Set_Text(view->wrapperRow, view->wrapperCell, text);
-    view->p4TextWrapper_Locked = false;
+    copying = true;
+    list->Set_Text(wrapperRow, wrapperCell, text);
+    copying = false;
 }
 
-// The user has typed: the clock follows.
-void HourPage::p4Text_Change(int row, HourCell cell) {
-    if (view->p4TextWrapper_Locked || row != view->wrapperRow || cell != view->wrapperCell)
+void HourPage::Cell_Typed(int row, HourCell cell) {
+    if (copying || row != wrapperRow || cell != wrapperCell)
         return;
-    view->p4TextWrapper_Locked = true;
-    view->p4TextWrapper->setText(view->List->Rows()[static_cast<std::size_t>(row)].Text(cell));
-    view->Clock.Follow(view->p4TextWrapper);
-    view->p4TextWrapper_Locked = false;
-}
-
-void HourPage::Hide_ErrorShapes() {
-    view->List->Mark_Error(-1);
-}
-
-void HourPage::Hide_Popup() {
-    view->Clock.Hide();
-}
-
-void HourPage::Unload_Popup() {
-    view->Clock.Unload();
+    copying = true;
+    wrapper->setText(list->Rows()[static_cast<std::size_t>(row)].Text(cell));
+    clock.Follow(wrapper);
+    copying = false;
 }

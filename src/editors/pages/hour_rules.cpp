@@ -63,14 +63,14 @@ QString Read_Condition(Condition condition, const ConditionFields& fields, HourS
     TimeReader reader;
     setup = {On, AtStartUpMinute, 0, 0};
     if (condition == Condition::At) {
-        setup.StartMinute = reader.Colon(fields.Text5);
+        setup.StartMinute = reader.Colon(fields.At);
     } else if (condition == Condition::Every) {
-        setup.EveryXMinutes = reader.Period(fields.Text6);
+        setup.EveryXMinutes = reader.Period(fields.Every);
         // Read, and refused, even when the program's start counts instead. The next
         // save checks the order of the two times.
-        const std::int16_t start = reader.Colon(fields.Text7);
-        setup.StartMinute = fields.AtIsTicked ? start : AtStartUpMinute;
-        setup.EndMinute = reader.Colon(fields.Text13);
+        const std::int16_t start = reader.Colon(fields.StartingAt);
+        setup.StartMinute = fields.HasStart ? start : AtStartUpMinute;
+        setup.EndMinute = reader.Colon(fields.Until);
     }
     return reader.Message();
 }

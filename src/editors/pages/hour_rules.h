@@ -50,11 +50,11 @@ std::optional<HourFault> Save_HourRows(const std::vector<HourRow>& rows, Reminde
 
 enum class Condition { AtStartUp = 0, At = 1, Every = 2 };
 struct ConditionFields {
-    QString Text5;           // at
-    QString Text6;           // every
-    QString Text7;           // starting at
-    QString Text13;          // until
-    bool AtIsTicked = false; // else it starts with the program
+    QString At;
+    QString Every;
+    QString StartingAt;
+    QString Until;
+    bool HasStart = false; // else it starts with the program
 };
 // Adds to the record and to the rows. The text is the message for a field that cannot be read;
 // empty also when a second "At start up" was passed over in silence.

@@ -5,11 +5,8 @@
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/text_fields.h"
-#include "controls/wb_button.h"
 
 #include <QFocusEvent>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -17,35 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr ColorValue HotText = 0xFF0000;
 constexpr int MarkGap = 2;
 
 } // namespace
-
-QLabel* pages::Add_Caption(const QString& text, int left, int top, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setFont(Small_Font());
-    label->setTextFormat(Qt::PlainText);
-    label->adjustSize();
-    label->move(left, top);
-    return label;
-}
-
-QLabel* pages::Add_Heading(const QString& text, int left, int top, QWidget* parent) {
-    QLabel* label = Add_Caption(text, left, top, parent);
-    QFont font = Small_Font();
-    font.setBold(true);
-    label->setFont(font);
-    label->adjustSize();
-    return label;
-}
-
-wbButton* pages::Add_Button(const QString& caption, const QRect& place, QWidget* parent) {
-    auto* button = new wbButton(parent);
-    button->setGeometry(place);
-    button->Set_Caption(caption);
-    return button;
-}
 
 void pages::Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength) {
     field->setFont(Small_Font());
@@ -110,18 +81,4 @@ void TimeField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason)
         Q_EMIT Lost_Focus();
-}
-
-HrDelLabel::HrDelLabel(QWidget* parent) : LinkLabel(u"x"_s, parent) {
-    setToolTip(u"Delete"_s);
-}
-
-void HrDelLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const bool marked = Is_Hot() || (hasFocus() && window()->isActiveWindow());
-    QFont font = Small_Font();
-    font.setUnderline(marked);
-    painter.setFont(font);
-    painter.setPen(palette::To_Color(marked ? HotText : palette::Black));
-    painter.drawText(rect(), Qt::AlignCenter, text());
 }

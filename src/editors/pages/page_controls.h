@@ -1,11 +1,8 @@
-// The small controls that the pages are made of: rectangles, labels, fields for times, and the "x"
-// of a row.
+// The small controls that the pages are made of: rectangles, and fields for times and categories.
 #pragma once
 
-#include "controls/link_label.h"
 #include "controls/palette.h"
 
-#include <QColor>
 #include <QLineEdit>
 #include <QWidget>
 
@@ -13,19 +10,13 @@
 
 class ComboBox;
 class QLabel;
-class wbButton;
 
 namespace pages {
-inline constexpr ColorValue Field_Back = 0xFFC0C0; // of what is typed on the date page
 inline constexpr ColorValue Frame_Border = 0xC0C0C0;
 inline constexpr ColorValue Error_Red = 0x0000FF;
 inline constexpr int FieldHeight = 21;
 inline constexpr int ButtonHeight = 23;
 
-// A label that is as wide as its text; bold for a heading.
-QLabel* Add_Caption(const QString& text, int left, int top, QWidget* parent);
-QLabel* Add_Heading(const QString& text, int left, int top, QWidget* parent);
-wbButton* Add_Button(const QString& caption, const QRect& place, QWidget* parent);
 // name: what a screen reader says. A longer text than maxLength letters is refused whole.
 void Set_UpField(QLineEdit* field, const QString& name, const QRect& place, int maxLength);
 // Leaves the cursor where it is when the text is there already.
@@ -70,14 +61,4 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-};
-
-// "x": blue and underlined while the mouse is over it, or the focus on it.
-class HrDelLabel : public LinkLabel {
-    Q_OBJECT
-public:
-    explicit HrDelLabel(QWidget* parent);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 };

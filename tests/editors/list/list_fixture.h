@@ -3,6 +3,7 @@
 
 #include "accessories/help/help.h"
 #include "controls/combo_box.h"
+#include "controls/cool_tab.h"
 #include "controls/text_fields.h"
 #include "core/categories.h"
 #include "core/date_text.h"
@@ -11,13 +12,11 @@
 #include "editors/list/copy_buffer.h"
 #include "editors/list/frm_reminder_edit.h"
 #include "editors/list/list_rules.h"
-#include "editors/list/misc_page.h"
 #include "editors/list/reminder_edit.h"
-#include "editors/list/sound_page.h"
 #include "support/fake_files.h"
 #include "support/fake_paths.h"
+#include "support/form_driver.h"
 
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -49,8 +48,7 @@ protected:
     }
     frmReminderEdit& Open() {
         Show_ReminderEdit();
-        Open_ReminderEdit()->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(Open_ReminderEdit()));
+        Give_Focus(Open_ReminderEdit());
         return *Open_ReminderEdit();
     }
     frmReminderEdit& Open_On(std::int32_t slot) {
@@ -60,12 +58,12 @@ protected:
     }
     static QStringList Titles() {
         QStringList titles;
-        for (const std::int32_t slot : Open_ReminderEdit()->Cards->Slots())
+        for (const std::int32_t slot : Cards().Slots())
             titles << Global_Reminders[static_cast<std::size_t>(slot)].Reminder.Peek().rs_Title;
         return titles;
     }
     static CardView* Card(const QString& title) {
-        for (CardView* card : Open_ReminderEdit()->Cards->findChildren<CardView*>())
+        for (CardView* card : Cards().findChildren<CardView*>())
             if (!card->isHidden() && card->Content().Title == title)
                 return card;
         return nullptr;
@@ -78,24 +76,33 @@ protected:
         return reminder == nullptr ? u"none"_s : reminder->rs_Title;
     }
     template <class Control>
-    static Control* Named(QWidget* page, const QString& name) {
-        for (Control* control : page->findChildren<Control*>())
-            if (control->accessibleName() == name)
-                return control;
-        ADD_FAILURE() << "no control " << name.toStdString();
+    static Control* Named(const QString& name) {
+        return Find<Control>(name, Open_ReminderEdit());
+    }
+    static void Press(const QString& button) { Click(Named<wbButton>(button)); }
+    static void Type(const QString& field, const QString& text) {
+        Type_Into(Named<QWidget>(field), text);
+    }
+    // A box to choose from says what is chosen, not what it is for.
+    static ComboBox* Combo(const QString& name) {
+        for (ComboBox* box : Open_ReminderEdit()->findChildren<ComboBox*>())
+            if (box->accessibleName() == name)
+                return box;
         return nullptr;
     }
-    static void Type(QWidget* field, const QString& text) {
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, text);
-    }
-    static void Choose(QComboBox* box, const QString& item) {
-        const int index = box->findText(item);
+    static void Choose(const QString& box, const QString& item) {
+        const int index = Combo(box)->findText(item);
         ASSERT_NE(index, -1) << item.toStdString();
-        box->setCurrentIndex(index);
-        Q_EMIT box->activated(index);
-        Q_EMIT box->textActivated(item);
+        Combo(box)->setCurrentIndex(index);
+        Q_EMIT Combo(box)->activated(index);
+        Q_EMIT Combo(box)->textActivated(item);
+    }
+    static CardList& Cards() { return *Open_ReminderEdit()->findChild<CardList*>(); }
+    static CoolTab& Tabs() { return *Open_ReminderEdit()->findChild<CoolTab*>(); }
+    static QString Page() { return Tabs().Tab_Caption(Tabs().Selected()); }
+    static void Show_Page(const QString& caption) {
+        while (Page() != caption)
+            Tabs().Choose((Tabs().Selected() + 1) % Tabs().TabCount());
     }
 
     FakeFiles files;

@@ -1,6 +1,5 @@
 #include "core/record_stream.h"
 #include "editors/list/function_rules.h"
-#include "editors/list/refused_save.h"
 #include "list_fixture.h"
 
 namespace {
@@ -19,10 +18,8 @@ TEST_F(ListRules, A_filter_shows_the_used_reminders_of_its_category_in_the_order
                 {u"-- (No category)"_s, {1}},
                 {u"work"_s, {0, 2}},
                 {u"Nothing in this one"_s, {}}};
-    for (const auto& row : rows) {
+    for (const auto& row : rows)
         EXPECT_EQ(Visible_Slots(row.filter), row.slots) << row.filter.toStdString();
-        EXPECT_EQ(Keep_Category({0, 1, 2, 3}, row.filter), row.slots) << row.filter.toStdString();
-    }
 }
 
 TEST_F(ListRules, What_becomes_of_a_category_pasted_and_made_under_a_filter) {

@@ -2,6 +2,7 @@
 #include "core/record_stream.h"
 #include "editors/list/click_label.h"
 #include "editors/list/frm_re_function_edit.h"
+#include "editors/list/icon_palette.h"
 #include "editors/pages/date_page.h"
 #include "editors/pages/hour_page.h"
 #include "list_fixture.h"
@@ -13,10 +14,10 @@ namespace {
 class ListWindow : public ListTest {
 protected:
     // A number of weeks that no save takes.
-    void Spoil_Date(frmReminderEdit& window) {
-        Named<ChkBox>(window.Picture2, u"Each: Monday"_s)->Toggle();
-        Named<ChkBox>(window.Picture2, u"Every X Weeks"_s)->Toggle();
-        Type(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"0"_s);
+    static void Spoil_Date() {
+        Named<ChkBox>(u"Each: Monday"_s)->Toggle();
+        Named<ChkBox>(u"Every X Weeks"_s)->Toggle();
+        Type(u"Every X weeks"_s, u"0"_s);
     }
     void Expect_Refusal() { dialogs.Expect_Message(u"Invalid Every X weeks value"_s); }
     void Expect_DeleteQuestion(const QString& title, platform::Answer answer) {
@@ -86,40 +87,37 @@ TEST_F(ListWindow, What_is_set_back_after_a_save_is_saved_again) {
     reminder.rs_SoundPath = u"/a.ogg"_s;
     reminder.AddNewHourSetup({-1, 60, 120, 15});
     frmReminderEdit& window = Open_On(0);
-    MessagePage& message = *window.Picture6;
-    SoundPage& sound = *window.Picture7;
     std::vector<std::pair<QString, std::function<void(bool back)>>> fields;
-    const auto Add_Field = [&](QWidget* field, const QString& other, const QString& own) {
-        fields.emplace_back(other, [=](bool back) { Type(field, back ? own : other); });
+    const auto Add_Field = [&](const QString& name, const QString& other, const QString& own) {
+        fields.emplace_back(name, [=](bool back) { Type(name, back ? own : other); });
     };
-    const auto Add_Box = [&](ChkBox* box) {
-        fields.emplace_back(box->accessibleName(), [=](bool) { box->Toggle(); });
-    };
-    const auto Hour = [&](const QString& name) { return Named<QLineEdit>(window.Picture3, name); };
-    Add_Field(message.Text9, u"title 2"_s, u"one"_s);
-    Add_Field(message.Text8, u"text 2"_s, u"text"_s);
-    for (QLineEdit* caption : message.Text10)
-        Add_Field(caption, u"caption 2"_s, caption->text());
-    Add_Field(sound.Text11, u"/b.ogg"_s, u"/a.ogg"_s);
-    Add_Field(Hour(u"Row 1: at"_s), u"20:01"_s, u"20:00"_s);
-    Add_Field(Hour(u"Row 2: every"_s), u"20m"_s, u"15m"_s);
-    Add_Field(Hour(u"Row 2: starting at"_s), u"01:30"_s, u"01:00"_s);
-    Add_Field(Hour(u"Row 2: until"_s), u"02:30"_s, u"02:00"_s);
-    Add_Field(Named<QLineEdit>(window.Picture2, u"Every X weeks"_s), u"4"_s, u"3"_s);
-    for (ChkBox* box : message.p6ChkImage)
-        Add_Box(box);
-    for (ChkBox* box : sound.p7ChkImage)
-        Add_Box(box);
-    for (const QString& day : {u"Each: Tuesday"_s, u"Every X Weeks"_s})
-        Add_Box(Named<ChkBox>(window.Picture2, day));
-    Add_Box(Named<ChkBox>(window.Picture3, u"Row 1 enabled"_s));
-    fields.emplace_back(u"category"_s, [&](bool back) {
-        window.Picture10->Set_CategoryText(back ? u"Work"_s : u"Home"_s);
+    Add_Field(u"Title"_s, u"title 2"_s, u"one"_s);
+    Add_Field(u"Text"_s, u"text 2"_s, u"text"_s);
+    for (int k = 1; k <= 4; ++k) {
+        const QString caption = u"Caption of button %1"_s.arg(k);
+        Add_Field(caption, u"caption 2"_s, Named<QLineEdit>(caption)->text());
+    }
+    Add_Field(u"Sound file"_s, u"/b.ogg"_s, u"/a.ogg"_s);
+    Add_Field(u"Row 1: at"_s, u"20:01"_s, u"20:00"_s);
+    Add_Field(u"Row 2: every"_s, u"20m"_s, u"15m"_s);
+    Add_Field(u"Row 2: starting at"_s, u"01:30"_s, u"01:00"_s);
+    Add_Field(u"Row 2: until"_s, u"02:30"_s, u"02:00"_s);
+    Add_Field(u"Every X weeks"_s, u"4"_s, u"3"_s);
+    for (const QString& box :
+         {u"Button 1"_s, u"Button 2"_s, u"Button 3"_s, u"Button 4"_s,
+          u"Minimize all running applications"_s, u"Play a sound file when the reminder is shown"_s,
+          u"Window's beep"_s, u"Each: Tuesday"_s, u"Every X Weeks"_s, u"Row 1 enabled"_s})
+        fields.emplace_back(box, [box](bool) { Named<ChkBox>(box)->Toggle(); });
+    fields.emplace_back(u"category"_s, [](bool back) {
+        Combo(u"Category"_s)->setEditText(back ? u"Work"_s : u"Home"_s);
     });
-    fields.emplace_back(u"icon"_s, [&](bool back) {
-        window.Picture10->IconSelIMG->Select_Icon_By_Name(back ? QString() : u"Gift"_s);
+    fields.emplace_back(u"icon"_s, [](bool back) {
+        back ? Press(u"No icon"_s) : Named<IconSelectPicture>(u"Gift"_s)->click();
     });
-    fields.emplace_back(u"mode"_s, [&](bool back) { message.Option2[back ? 2 : 0]->click(); });
+    fields.emplace_back(u"mode"_s, [](bool back) {
+        Named<QRadioButton>(back ? u"Separate window, centered"_s : u"Show inside toolbar"_s)
+            ->click();
+    });
     const auto Saved = [&] {
         EXPECT_TRUE(window.Save_View_To_Reminder(CategoryOnSave::Take));
         return Record_Of(reminder);
@@ -144,18 +142,29 @@ TEST_F(ListWindow, Cards_tell_title_text_and_next_run_and_wear_the_record_s_stat
     EXPECT_EQ(Card(u"never"_s)->Content().NextRun, u"( )"_s);
     EXPECT_EQ(Card(u"never"_s)->Content().Colors, IconColors::Grey);
     EXPECT_TRUE(Card(u"today off"_s)->Content().DisabledForToday);
-    EXPECT_FALSE(Card(u"today off"_s)->p1ChkImage->Is_Ticked());
-    Card(u"today off"_s)->p1ChkImage->Toggle();
+    EXPECT_FALSE(Card(u"today off"_s)->EnabledBox->Is_Ticked());
+    Card(u"today off"_s)->EnabledBox->Toggle();
     EXPECT_EQ(Reminder(2).rs_DisabledForToday, 0);
     EXPECT_FALSE(Card(u"today off"_s)->Content().DisabledForToday);
-    Card(u"plain"_s)->p1ChkImage->Toggle();
+    Card(u"plain"_s)->EnabledBox->Toggle();
     EXPECT_FALSE(Reminder(0).rs_Enabled);
-    // The day goes on while the window is open.
-    Open_On(2);
+}
+
+TEST_F(ListWindow, Midnight_passes_with_the_window_open) {
+    Reminder(Add(u"today off"_s)).rs_DisabledForToday = Monday;
+    ReminderClass& exact = Add_Kind(u"exact"_s, DateType::ExactDate);
+    exact.Set_ExactDate({3, 3, 2026}, Monday + 1);
+    frmReminderEdit& window = Open_On(1);
+    Named<ChkBox>(u"Remind me: Every Day"_s)->Toggle(); // not saved
+    const auto Exact = [] { return Card(u"exact"_s)->Content().NextRun; };
+    EXPECT_EQ(Exact(), u"(Today)"_s);
     clock.Advance(24 * 3600 * 1000);
-    Reminder(2).rs_DisabledForToday = Monday + 1;
-    Open().Refresh_View();
-    EXPECT_TRUE(Card(u"today off"_s)->Content().DisabledForToday);
+    for (QTimer* timer : window.findChildren<QTimer*>())
+        if (timer->interval() == 60000)
+            timer->setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Card(u"today off"_s)->Content().DisabledForToday; }));
+    EXPECT_EQ(Exact(), u"(Today)"_s);
+    EXPECT_EQ(exact.rs_DateType_Used, DateType::ExactDate);
 }
 
 TEST_F(ListWindow, Ten_thousand_reminders_have_as_many_controls_as_ten) {
@@ -169,10 +178,11 @@ TEST_F(ListWindow, Ten_thousand_reminders_have_as_many_controls_as_ten) {
     const auto few = Controls(10);
     EXPECT_EQ(Controls(10000), few);
     Global_Reminders.back().Reminder->rs_Title = u"the last"_s;
-    CardList* list = Open().Cards;
+    Open();
+    CardList* list = &Cards();
     list->setFocus();
     QTest::keyClick(list, Qt::Key_End);
-    EXPECT_EQ(list->VScroll2->value(), 10000 * 73 - list->height());
+    EXPECT_EQ(list->findChild<QScrollBar*>()->value(), 10000 * 73 - list->height());
     ASSERT_NE(Card(u"the last"_s), nullptr);
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_EQ(Selected_Title(), u"the last"_s);
@@ -181,8 +191,8 @@ TEST_F(ListWindow, Ten_thousand_reminders_have_as_many_controls_as_ten) {
 
 TEST_F(ListWindow, Title_and_text_reach_record_and_card_as_they_are_typed) {
     frmReminderEdit& window = Open_On(Add(u"Reminder"_s));
-    window.Show_Page(EditPage::Message);
-    Type(window.Picture6->Text9, u"Bread"_s);
+    Show_Page(u"Message"_s);
+    Type(u"Title"_s, u"Bread"_s);
     EXPECT_EQ(Reminder(0).rs_Title, u"Bread"_s);
     ASSERT_NE(Card(u"Bread"_s), nullptr);
     // To its own menu, another window, and another field.
@@ -190,42 +200,42 @@ TEST_F(ListWindow, Title_and_text_reach_record_and_card_as_they_are_typed) {
          {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::TabFocusReason}) {
         EXPECT_EQ(Reminder(0).rs_Text, u"Insert text here"_s);
         QFocusEvent leave(QEvent::FocusOut, reason);
-        QCoreApplication::sendEvent(window.Picture6->Text9, &leave);
+        QCoreApplication::sendEvent(Named<QLineEdit>(u"Title"_s), &leave);
     }
     EXPECT_EQ(Reminder(0).rs_Text, u"Bread"_s);
-    CardText* onCard = Card(u"Bread"_s)->Text12;
+    CardText* onCard = Card(u"Bread"_s)->Text;
     EXPECT_EQ(Plain_Text(*onCard), u"Bread"_s);
-    Type(onCard, u"a"_s);
+    Type_Into(onCard, u"a"_s);
     QTest::keyClick(onCard, Qt::Key_Return);
     QTest::keyClicks(onCard, u"b"_s);
     EXPECT_EQ(Reminder(0).rs_Text, u"a\r\nb"_s);
-    EXPECT_EQ(Plain_Text(*window.Picture6->Text8), u"a\nb"_s);
+    EXPECT_EQ(Plain_Text(*Named<QPlainTextEdit>(u"Text"_s)), u"a\nb"_s);
     // Nothing of it is undone into a reminder with the same text.
     Reminder(Add(u"other"_s)).rs_Text = u"same"_s;
-    Type(window.Picture6->Text8, u"same"_s);
+    Type(u"Text"_s, u"same"_s);
     window.SelectReminder_Using_RListIndex(1);
-    QTest::keyClick(window.Picture6->Text8, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(Named<QPlainTextEdit>(u"Text"_s), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Reminder(1).rs_Text, u"same"_s);
 }
 
 TEST_F(ListWindow, A_field_at_fault_keeps_its_reminder_selected_whatever_is_tried) {
     Add(u"good"_s, u"Work"_s);
     frmReminderEdit& window = Open_On(Add(u"bad"_s, u"Home"_s));
-    Spoil_Date(window);
-    window.Show_Page(EditPage::Message);
+    Spoil_Date();
+    Show_Page(u"Message"_s);
     const std::function<void()> tries[] = {
         [&] { Click_Card(u"good"_s); },
-        [&] { Choose(window.Combo2, u"Work"_s); },
+        [&] { Choose(u"Show Category"_s, u"Work"_s); },
         [&] { EXPECT_FALSE(window.Unload(UnloadMode::User)); },
-        [&] { Click(window.wbButton8); },
-        [&] { Click(window.wbButton10); },
+        [&] { Press(u"Copy"_s); },
+        [&] { Press(u"Run"_s); },
     };
     for (const auto& attempt : tries) {
         Expect_Refusal();
         attempt();
         EXPECT_EQ(Selected_Title(), u"bad"_s);
-        EXPECT_EQ(window.Combo2->currentText(), u"-- (All)"_s);
-        EXPECT_EQ(window.CurrentPage, EditPage::DateSetup);
+        EXPECT_EQ(Combo(u"Show Category"_s)->currentText(), u"-- (All)"_s);
+        EXPECT_EQ(Page(), u"Date Setup"_s);
     }
     EXPECT_FALSE(CopyBufferValid);
     EXPECT_TRUE(line.puts.empty());
@@ -236,11 +246,15 @@ TEST_F(ListWindow, The_end_takes_a_good_page_and_brings_a_refused_record_back_as
     const std::int32_t slot = Add(u"kept"_s);
     Reminder(slot).AddNewHourSetup({-1, 60, 0, 0});
     frmReminderEdit& window = Open_On(slot);
-    window.Picture10->Set_CategoryText(u"new one"_s);
+    Combo(u"Category"_s)->setEditText(u"new one"_s);
+    Type(u"Caption of button 1"_s, u"still typing"_s);
+    Type(u"Row 1: at"_s, u"21:15"_s);
     EXPECT_TRUE(Store_OpenPage());
     EXPECT_EQ(Reminder(slot).rs_Category, u"New One"_s);
+    EXPECT_EQ(Reminder(slot).GetFuncion(0).Title, u"still typing"_s);
+    EXPECT_EQ(Reminder(slot).GetHourSetup(0).StartMinute, 21 * 60 + 15);
     const std::string before = Record_Of(Reminder(slot));
-    Spoil_Date(window);
+    Spoil_Date();
     Expect_Refusal();
     // The program may end under the box of the refusal, too.
     dialogs.whileOpen = [&](const auto&) {
@@ -256,10 +270,10 @@ TEST_F(ListWindow, The_end_takes_a_good_page_and_brings_a_refused_record_back_as
 
 TEST_F(ListWindow, A_condition_added_after_a_refused_save_outlives_the_end) {
     frmReminderEdit& window = Open_On(Add(u"one"_s));
-    Type(Named<QLineEdit>(window.Picture3, u"Row 1: at"_s), u"bad"_s);
+    Type(u"Row 1: at"_s, u"bad"_s);
     dialogs.Expect_Message(u"Invalid time: \r\nbad"_s);
     EXPECT_FALSE(window.Save_View_To_Reminder(CategoryOnSave::Take));
-    Click(Named<wbButton>(window.Picture3, u"Add to list: At"_s));
+    Press(u"Add to list: At"_s);
     EXPECT_FALSE(Store_OpenPage());
     ASSERT_EQ(Reminder(0).HourSetupList_Size(), 1);
     EXPECT_EQ(Reminder(0).GetHourSetup(0), (HourSetup{-1, 1200, 0, 0}));
@@ -273,16 +287,16 @@ TEST_F(ListWindow, A_selected_reminder_may_move_fire_or_go_away_from_outside) {
     frmReminderEdit& window = Open_On(1);
     Delete_ReminderSlot(0);
     EXPECT_EQ(Selected_Title(), u"second"_s);
-    Type(window.Picture6->Text9, u"moved"_s);
+    Type(u"Title"_s, u"moved"_s);
     EXPECT_EQ(Reminder(0).rs_Title, u"moved"_s);
     EXPECT_EQ(Reminder(1).rs_Title, u"third"_s);
     Click_Card(u"third"_s); // its card still stands in the old row
     EXPECT_EQ(Selected_Title(), u"third"_s);
     Delete_ReminderSlot(1);
-    Type(window.Picture6->Text9, u"nobody"_s);
+    Type(u"Title"_s, u"nobody"_s);
     EXPECT_EQ(Reminder(0).rs_Title, u"moved"_s);
     window.Refresh_View();
-    EXPECT_TRUE(window.Picture2->isHidden());
+    EXPECT_TRUE(window.findChild<DatePage*>()->isHidden());
     EXPECT_EQ(Titles(), QStringList{u"moved"_s});
     EXPECT_TRUE(window.Unload(UnloadMode::User));
 }
@@ -290,70 +304,72 @@ TEST_F(ListWindow, A_selected_reminder_may_move_fire_or_go_away_from_outside) {
 TEST_F(ListWindow, New_copy_paste_and_delete) {
     Add(u"one"_s);
     frmReminderEdit& window = Open_On(0);
-    Click(window.wbButton9); // nothing was copied in this run
+    Press(u"Paste"_s); // nothing was copied in this run
     EXPECT_EQ(Titles().size(), 1);
-    Click(window.wbButton5);
+    Press(u"New"_s);
     EXPECT_EQ(Titles(), (QStringList{u"one"_s, u"Reminder"_s}));
     EXPECT_EQ(Selected_Title(), u"one"_s);
-    Click(window.wbButton8);
-    Click(window.wbButton9);
+    Press(u"Copy"_s);
+    Press(u"Paste"_s);
     EXPECT_EQ(Reminder(2).rs_Title, u"one"_s);
     EXPECT_EQ(Reminder(2).rs_Category, u"-- (All)"_s);
     EXPECT_EQ(Reminder(2).rs_ID, 2);
     Expect_DeleteQuestion(u"one"_s, platform::Answer::No);
-    Click(window.wbButton6);
+    Press(u"Delete"_s);
     EXPECT_EQ(Titles().size(), 3);
     Expect_DeleteQuestion(u"one"_s, platform::Answer::Yes);
-    Click(window.wbButton6);
+    Press(u"Delete"_s);
     EXPECT_EQ(Titles(), (QStringList{u"Reminder"_s, u"one"_s}));
     EXPECT_EQ(Selected_Title(), u"none"_s);
-    EXPECT_TRUE(window.Picture2->isHidden());
+    EXPECT_TRUE(window.findChild<DatePage*>()->isHidden());
 }
 
 TEST_F(ListWindow, Keys_act_on_the_card_that_wears_the_frame) {
     Add(u"one"_s);
     Add(u"two"_s);
     frmReminderEdit& window = Open_On(0);
-    Click(window.wbButton5); // the frame stays with the selection
-    window.Cards->setFocus();
-    QTest::keyClick(window.Cards, Qt::Key_Down);
+    Press(u"New"_s); // the frame stays with the selection
+    Cards().setFocus();
+    QTest::keyClick(&Cards(), Qt::Key_Down);
     EXPECT_EQ(Selected_Title(), u"one"_s);
-    QTest::keyClick(window.Cards, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(&Cards(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(Selected_Title(), u"two"_s);
-    QTest::keyClick(window.Cards, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&Cards(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Reminder(3).rs_Title, u"two"_s);
-    EXPECT_EQ(window.Cards->Current_Row(), 1);
+    EXPECT_EQ(Cards().Current_Row(), 1);
     Delete_ReminderSlot(0); // the frame goes along with its card
     window.Refresh_View();
-    EXPECT_EQ(window.Cards->Current_Row(), 0);
-    QTest::keyClick(window.Cards, Qt::Key_Down);
+    EXPECT_EQ(Cards().Current_Row(), 0);
+    QTest::keyClick(&Cards(), Qt::Key_Down);
     Expect_DeleteQuestion(u"Reminder"_s, platform::Answer::Yes);
-    QTest::keyClick(window.Cards, Qt::Key_Delete);
+    QTest::keyClick(&Cards(), Qt::Key_Delete);
     EXPECT_EQ(Titles(), (QStringList{u"two"_s, u"two"_s}));
-    Spoil_Date(Open_On(0));
-    window.Cards->setFocus();
-    QTest::keyClick(window.Cards, Qt::Key_End);
+    Open_On(0);
+    Spoil_Date();
+    Cards().setFocus();
+    QTest::keyClick(&Cards(), Qt::Key_End);
     Expect_Refusal(); // and nothing is deleted
-    QTest::keyClick(window.Cards, Qt::Key_Delete);
+    QTest::keyClick(&Cards(), Qt::Key_Delete);
     EXPECT_EQ(Titles().size(), 2);
 }
 
 TEST_F(ListWindow, An_empty_category_offers_all_the_reminders) {
     Add(u"one"_s, u"Work"_s);
-    frmReminderEdit& window = Open();
-    Choose(window.Combo2, u"Home"_s);
-    EXPECT_FALSE(window.Cards->Label12->isHidden());
-    EXPECT_TRUE(window.Cards->VScroll2->isHidden());
-    QTest::mouseClick(window.Cards->Label15, Qt::LeftButton);
+    Open();
+    Choose(u"Show Category"_s, u"Home"_s);
+    EXPECT_TRUE(Named<QLabel>(u"No reminders in this category"_s)->isVisible());
+    EXPECT_TRUE(Cards().findChild<QScrollBar*>()->isHidden());
+    QTest::mouseClick(Named<ClickLabel>(u"Click here to view all the reminders"_s), Qt::LeftButton);
     EXPECT_EQ(Titles(), QStringList{u"one"_s});
-    EXPECT_TRUE(window.Cards->Label12->isHidden());
+    EXPECT_TRUE(Named<QLabel>(u"No reminders in this category"_s)->isHidden());
     Click_Card(u"one"_s);
-    QWheelEvent wheel({5, 5}, window.Combo2->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(window.Combo2, &wheel); // without the focus it changes nothing
-    EXPECT_EQ(window.Combo2->currentText(), u"-- (All)"_s);
+    QWheelEvent wheel({5, 5}, Combo(u"Show Category"_s)->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                      {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(Combo(u"Show Category"_s),
+                                &wheel); // without the focus it changes nothing
+    EXPECT_EQ(Combo(u"Show Category"_s)->currentText(), u"-- (All)"_s);
     EXPECT_EQ(Selected_Title(), u"one"_s);
-    Choose(window.Combo2, u"-- (All)"_s); // chosen already: the selection goes all the same
+    Choose(u"Show Category"_s, u"-- (All)"_s); // chosen already: the selection goes all the same
     EXPECT_EQ(Selected_Title(), u"none"_s);
 }
 
@@ -361,18 +377,18 @@ TEST_F(ListWindow, A_category_typed_is_added_moves_its_card_and_can_be_deleted) 
     Add(u"one"_s, u"Work"_s);
     Add(u"two"_s, u"Work"_s);
     frmReminderEdit& window = Open();
-    Choose(window.Combo2, u"Work"_s);
+    Choose(u"Show Category"_s, u"Work"_s);
     Click_Card(u"one"_s);
-    window.Picture10->Set_CategoryText(u"garden  tools"_s);
+    Combo(u"Category"_s)->setEditText(u"garden  tools"_s);
     Click_Card(u"two"_s);
     EXPECT_EQ(Reminder(0).rs_Category, u"Garden Tools"_s);
     EXPECT_EQ(Titles(), QStringList{u"two"_s});
-    EXPECT_EQ(window.Combo2->findText(u"Garden Tools"_s), 4);
-    auto* erase = Named<wbButton>(window.Picture10, u"Delete category"_s);
-    window.Picture10->Set_CategoryText(u"unknown"_s);
+    EXPECT_EQ(Combo(u"Show Category"_s)->findText(u"Garden Tools"_s), 4);
+    auto* erase = Named<wbButton>(u"Delete category"_s);
+    Combo(u"Category"_s)->setEditText(u"unknown"_s);
     dialogs.Expect_Message(u"Category doesn't exists"_s);
     Click(erase);
-    window.Picture10->Set_CategoryText(u"work"_s);
+    Combo(u"Category"_s)->setEditText(u"work"_s);
     dialogs.Expect_Question(u"Delete category: Work?"_s, platform::Answer::Yes);
     Click(erase);
     EXPECT_EQ(Find_Category(u"Work"_s), -1);
@@ -384,64 +400,59 @@ TEST_F(ListWindow, A_category_typed_is_added_moves_its_card_and_can_be_deleted) 
 TEST_F(ListWindow, A_category_s_icon_goes_to_its_reminders_when_the_user_agrees) {
     for (const QString& title : {u"one"_s, u"two"_s})
         Add(title, u"Home"_s);
-    frmReminderEdit& window = Open_On(0);
-    window.Show_Page(EditPage::Misc);
-    const auto Button = [&](const QString& caption) {
-        for (wbButton* button : window.Picture10->findChildren<wbButton*>())
-            if (button->Caption() == caption)
-                Click(button);
-    };
+    Open_On(0);
+    Show_Page(u"Misc"_s);
     const QString use = u"Use this icon for the selected category"_s;
     const QString question = u"Icon changed. \r\nDo you want to change the icons of the "
                              "reminders\r\ninside the \"Home\" category ?"_s;
-    QTest::mouseClick(window.Picture10->IconSelIMG->Frames[14], Qt::LeftButton);
+    QTest::mouseClick(Named<IconSelectPicture>(u"Gift"_s), Qt::LeftButton);
     EXPECT_EQ(Card(u"one"_s)->Content().Icon, u"Gift"_s);
     EXPECT_EQ(Reminder(0).rs_Icon, QString()); // until a save
     dialogs.Expect_Question(question, platform::Answer::No);
-    Button(use);
+    Press(use);
     EXPECT_EQ(Global_Categories[1].Icon, u"gift"_s);
     EXPECT_EQ(Reminder(1).rs_Icon, QString());
     dialogs.Expect_Question(question, platform::Answer::Yes);
-    Button(use);
+    Press(use);
     EXPECT_EQ(Reminder(1).rs_Icon, u"gift"_s);
     EXPECT_EQ(Card(u"two"_s)->Content().Icon, u"gift"_s);
-    Button(u"No icon"_s);
+    Press(u"No icon"_s);
     EXPECT_EQ(Card(u"one"_s)->Content().Icon, QString());
-    Choose(window.Picture10->Combo1, u"Work"_s); // brings its own icon
-    EXPECT_EQ(window.Picture10->IconSelIMG->Selected_Name(), u"Write"_s);
-    window.Picture10->Set_CategoryText(u"--"_s);
+    Choose(u"Category"_s, u"Work"_s); // brings its own icon
+    EXPECT_TRUE(Named<IconSelectPicture>(u"Write"_s)->isChecked());
+    Combo(u"Category"_s)->setEditText(u"--"_s);
     dialogs.Expect_Message(u"Category doesn't exist: --"_s);
-    Button(use);
+    Press(use);
 }
 
 TEST_F(ListWindow, The_function_editor_changes_the_record_at_once_and_keeps_what_is_typed) {
     Add(u"other"_s);
     frmReminderEdit& window = Open_On(Add(u"one"_s));
-    window.Show_Page(EditPage::Message);
+    Show_Page(u"Message"_s);
     const auto Editor = [&]() -> frmRE_FunctionEdit& {
-        Click(window.Picture6->wbButton3[1]);
+        Press(u"Edit function of button 2"_s);
         return *window.findChildren<frmRE_FunctionEdit*>().back();
     };
-    window.Picture6->Text10[1]->setText(u"My caption"_s);
-    const auto Finish = [](frmRE_FunctionEdit& editor, const QString& button) {
-        Click(Named<wbButton>(&editor, button));
+    auto* caption = Named<QLineEdit>(u"Caption of button 2"_s);
+    caption->setText(u"My caption"_s);
+    const auto Finish = [](const frmRE_FunctionEdit& editor, const QString& button) {
+        Click_On<wbButton>(button, &editor);
         Unload_PendingForms();
     };
     frmRE_FunctionEdit& canceled = Editor();
-    canceled.p0ChkImage[1]->Toggle();
+    Find<ChkBox>(u"Open file:"_s, &canceled)->Toggle();
     QTest::keyClick(&canceled, Qt::Key_Escape);
     Unload_PendingForms();
     EXPECT_EQ(Reminder(1).GetFuncion(1), FunctionEntry{});
     frmRE_FunctionEdit& editor = Editor();
-    editor.p0ChkImage[1]->Toggle();
-    editor.p0ChkImage[0]->Toggle(); // takes the other tick away
-    Type(editor.Text10[0], u"a.org"_s);
-    editor.p0ChkImage[4]->Toggle();
+    for (const QString& box : {u"Open file:"_s, u"Open page:"_s, u"Maximized"_s})
+        Find<ChkBox>(box, &editor)->Toggle(); // takes the tick of its group
+    Type_Into(Find<QLineEdit>(u"URL"_s, &editor), u"a.org"_s);
     Finish(editor, u"Ok"_s);
     EXPECT_EQ(Reminder(1).GetFuncion(1),
               (FunctionEntry{false, FunctionType::OpenPage, 2, u"http://a.org"_s, {}}));
-    EXPECT_EQ(window.Picture6->Label32[1]->text(), u"Open page: \"http://a.org\""_s);
-    EXPECT_EQ(window.Picture6->Text10[1]->text(), u"My caption"_s);
+    EXPECT_TRUE(Named<ClickLabel>(u"Open page: \"http://a.org\""_s)->isVisible());
+    EXPECT_EQ(caption->text(), u"My caption"_s);
     // The reminder goes while its function is being edited.
     frmRE_FunctionEdit& late = Editor();
     Delete_ReminderSlot(1);
@@ -452,44 +463,41 @@ TEST_F(ListWindow, The_function_editor_changes_the_record_at_once_and_keeps_what
 TEST_F(ListWindow, Display_mode_functions_and_sound) {
     Reminder(Add(u"one"_s)).rs_Reminder_Type = ReminderType::Centered;
     frmReminderEdit& window = Open_On(0);
-    MessagePage& message = *window.Picture6;
-    message.p6ChkImage[4]->Toggle();
-    message.Option2[1]->click();
-    EXPECT_TRUE(message.p6ChkImage[4]->Is_Blocked());
-    message.p6ChkImage[2]->Toggle();
+    auto* minimize = Named<ChkBox>(u"Minimize all running applications"_s);
+    minimize->Toggle();
+    Named<QRadioButton>(u"Separate window, next to toolbar"_s)->click();
+    EXPECT_TRUE(minimize->Is_Blocked());
+    Named<ChkBox>(u"Button 3"_s)->Toggle();
     EXPECT_TRUE(Reminder(0).GetFuncion(2).Enabled); // at once
-    message.Text10[0]->setText(QString(65533, u'a'));
-    QTest::keyClicks(message.Text10[0], u"bcdef"_s);
-    EXPECT_EQ(message.Text10[0]->text().size(), 65535);
-    SoundPage& sound = *window.Picture7;
-    EXPECT_TRUE(sound.p7ChkImage[1]->Is_Ticked()); // the path is empty
-    EXPECT_FALSE(sound.Text11->isEnabled());
+    auto* caption = Named<QLineEdit>(u"Caption of button 1"_s);
+    caption->setText(QString(65533, u'a'));
+    QTest::keyClicks(caption, u"bcdef"_s);
+    EXPECT_EQ(caption->text().size(), 65535);
+    auto* beep = Named<ChkBox>(u"Window's beep"_s);
+    auto* sound = Named<QLineEdit>(u"Sound file"_s);
+    EXPECT_TRUE(beep->Is_Ticked()); // the path is empty
+    EXPECT_FALSE(sound->isEnabled());
     const QString base = paths.Program_Folder() + u"/ring"_s;
     ASSERT_TRUE(files.Replace(base + u".mp3"_s, "x"));
-    auto* browse = Named<wbButton>(&sound, u"Choose a sound file"_s);
+    const QString browse = u"Choose a sound file"_s;
     dialogs.Expect_Open_File(u"Open File"_s, base, 1);
     dialogs.Expect_Message(u"Can't open file: "_s + base + u".wav"_s, platform::BoxStyle::Critical);
-    Click(browse);
+    Press(browse);
     dialogs.Expect_Open_File(u"Open File"_s, base, 0);
-    Click(browse);
-    EXPECT_TRUE(sound.Text11->isEnabled());
+    Press(browse);
+    EXPECT_TRUE(sound->isEnabled());
     EXPECT_TRUE(window.Save_View_To_Reminder(CategoryOnSave::Take));
     EXPECT_EQ(Reminder(0).rs_SoundPath, base + u".mp3"_s);
     EXPECT_EQ(Reminder(0).rs_Reminder_Type, ReminderType::NextToToolbar);
     EXPECT_FALSE(Reminder(0).rs_Minimize_Apps);
-    const auto Play = [&] {
-        for (wbButton* button : sound.findChildren<wbButton*>())
-            if (button->Caption() == u"Play"_s)
-                Click(button);
-    };
-    Play();
+    Press(u"Play"_s);
     EXPECT_EQ(media.commands.filter(u"PLAY"_s).size(), 1);
-    Type(sound.Text11, u"/nowhere.mp3"_s);
+    Type(u"Sound file"_s, u"/nowhere.mp3"_s);
     dialogs.Expect_Message(u"Invalid sound file"_s);
-    Play();
-    sound.p7ChkImage[1]->Toggle();
+    Press(u"Play"_s);
+    beep->Toggle();
     desktop.beeps = 0;
-    Play();
+    Press(u"Play"_s);
     EXPECT_EQ(desktop.beeps, 1);
     EXPECT_EQ(media.commands.filter(u"PLAY"_s).size(), 1);
 }

@@ -1,5 +1,5 @@
 #include "core/date_text.h"
-#include "editors/pages/date_record.h"
+#include "editors/pages/date_rules.h"
 
 #include <gtest/gtest.h>
 
@@ -112,14 +112,14 @@ TEST_F(DateRules, The_exact_date_moves_into_its_field) {
         {"Sunday of this week", 20, false, none, u"08.03.----"_s, none}};
     for (const Case& row : cases) {
         DatePageState state = Ticked({row.box, 21});
-        state.Text4[ExactField] = row.text;
-        state.Option1[ExactNext] = row.next;
+        state.Dates[ExactField] = row.text;
+        state.WeekOptions[ExactNext] = row.next;
         DatePageState other = state;
         Date_Option_Checked(state, 21, Wednesday);
-        EXPECT_EQ(state.Text4[ExactField], row.everyYear) << row.name;
+        EXPECT_EQ(state.Dates[ExactField], row.everyYear) << row.name;
         EXPECT_EQ(state.Tick(21), row.everyYear != row.text) << row.name;
         Date_Option_Unchecked(other, 21, Wednesday);
-        EXPECT_EQ(other.Text4[ExactField], row.unticked) << row.name;
+        EXPECT_EQ(other.Dates[ExactField], row.unticked) << row.name;
     }
 }
 
@@ -135,10 +135,10 @@ TEST_F(DateRules, This_week_blocks_the_days_that_have_passed) {
     EXPECT_EQ(blocked, "..............xx.........xx.....");
     Week_Option_Clicked(state, ExactNext, Wednesday);
     EXPECT_TRUE(!state.Blocked[14] && state.Blocked[25]);
-    EXPECT_EQ(state.Option1, (std::array<bool, 4>{false, true, true, false}));
+    EXPECT_EQ(state.WeekOptions, (std::array<bool, 4>{false, true, true, false}));
     DatePageState fresh = Ticked({20});
     Date_Option_Checked(fresh, 20, Wednesday);
-    EXPECT_EQ(fresh.Option1, (std::array<bool, 4>{true, false, false, false}));
+    EXPECT_EQ(fresh.WeekOptions, (std::array<bool, 4>{true, false, false, false}));
 }
 
 TEST_F(DateRules, Record_to_page_to_record_loses_what_the_rules_say_and_nothing_else) {
@@ -209,7 +209,7 @@ TEST_F(DateRules, What_is_refused_and_in_which_words) {
                              u"Selected (days setup) start day is invalid"_s};
     for (const Case& row : cases) {
         DatePageState page = Ticked(row.boxes);
-        page.Text1 = page.Text2 = page.Text3 = page.Text4[0] = page.Text4[1] = row.text;
+        page.Weeks = page.DayOfMonth = page.Days = page.Dates[0] = page.Dates[1] = row.text;
         ReminderClass reminder;
         reminder.rs_ActivationDay = 900;
         const auto fault = Save_DateSetup(page, {}, reminder, Wednesday);
@@ -257,7 +257,7 @@ TEST_F(DateRules, A_new_start_date_begins_the_cycles_again) {
                           {"nothing ticked", {0}, 0, 5, "0 77 5 88"}};
     for (const Case& row : cases) {
         DatePageState page = Ticked(row.boxes);
-        page.Text4[StartField] = u"05.04.27"_s;
+        page.Dates[StartField] = u"05.04.27"_s;
         ReminderClass reminder;
         reminder.rs_ActivationDay = row.before;
         reminder.rs_FirstRunDate = 77;

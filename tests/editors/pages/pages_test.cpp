@@ -8,8 +8,9 @@
 #include "editors/pages/date_page.h"
 #include "editors/pages/hour_list.h"
 #include "editors/pages/hour_page.h"
+#include "editors/pages/page_controls.h"
 #include "support/fake_system.h"
-#include "support/spoken_name.h"
+#include "support/form_driver.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -44,11 +45,7 @@ protected:
     }
     template <class Control>
     Control* Named(const QString& name) {
-        for (Control* control : window->findChildren<Control*>())
-            if (Spoken_Name(control) == name && !control->isHidden())
-                return control;
-        ADD_FAILURE() << name.toStdString();
-        return nullptr;
+        return Find<Control>(name, window.get());
     }
     static QWidget* Popup(const QString& title) {
         for (QWidget* form : QApplication::topLevelWidgets())
@@ -70,45 +67,43 @@ protected:
             starts += row.Start;
         return starts;
     }
-    void Click(const QString& box) { QTest::mouseClick(Named<ChkBox>(box), Qt::LeftButton); }
-    void Press(const QString& button) {
-        QTest::mouseClick(Named<wbButton>(button), Qt::LeftButton);
-    }
+    void Click(const QString& box) { Click_On<ChkBox>(box, window.get()); }
+    void Press(const QString& button) { Click_On<wbButton>(button, window.get()); }
     void Type(const QString& field, const QString& text) {
-        auto* edit = Named<QLineEdit>(field);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
+        Type_Into(Named<QLineEdit>(field), text);
+    }
+    DatePage& Open_DatePage() {
+        auto& page = Open<DatePage>();
+        QObject::connect(&page, &DatePage::NextRun_Changed, &page,
+                         [this](Day day) { nextRun = day; });
+        page.Load(reminder);
+        return page;
+    }
+    void Open_HourPage() {
+        hours = &Open<HourPage>();
+        hours->Load(reminder);
     }
 
     ReminderClass* Selected_Reminder() override { return selected; }
-    void Show_Page(EditPage page) override { shownPage = page; }
-    void Restart_HideErrorShapeTimer() override { ++marks; }
     bool Save_View_To_Reminder(CategoryOnSave) override {
-        const bool saved = hours->Save_HourSetup_List(ShowErrors::Yes);
+        const bool saved = hours->Store(reminder).isEmpty();
         if (goesOnSave)
             selected = nullptr;
         return saved;
     }
-    void Show_NextRun(Day day) override { nextRun = day; }
-    void Condition_Added(const HourSetup&) override {}
 
     FakeSystem system;
     std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
     ReminderClass reminder;
     ReminderClass* selected = &reminder;
     HourPage* hours = nullptr;
-    EditPage shownPage = EditPage::Misc;
-    int marks = 0;
     bool goesOnSave = false; // the reminder is deleted while events are handled
     Day nextRun = -9;
 };
 
 TEST_F(Pages, The_next_run_follows_every_click_and_the_record_only_the_save) {
-    DatePage& page = Open<DatePage>();
     reminder.rs_REveryDay = true;
-    page.Load_View(reminder);
-    page.Update_NextRun_Labels();
+    DatePage& page = Open_DatePage();
     EXPECT_EQ(nextRun, Today);
     Click(u"Each: Wednesday"_s);
     EXPECT_EQ(nextRun, Today + 2);
@@ -120,28 +115,21 @@ TEST_F(Pages, The_next_run_follows_every_click_and_the_record_only_the_save) {
     Type(u"Exact date"_s, u"13/20/2026"_s);
     EXPECT_EQ(nextRun, Today + 18); // cannot be read: nothing changes
     EXPECT_TRUE(reminder.rs_REveryDay);
-    system.dialogs.Expect_Message(u"Invalid (Days setup) Exact date: \r\n13/20/2026"_s);
-    EXPECT_FALSE(page.Save_DateSetup_To_Reminder(reminder, ShowErrors::Yes));
-    EXPECT_EQ(shownPage, EditPage::DateSetup);
-    EXPECT_EQ(marks, 1);
+    EXPECT_EQ(page.Store(reminder), u"Invalid (Days setup) Exact date: \r\n13/20/2026"_s);
+    page.Mark_Fault();
     auto* field = Named<QLineEdit>(u"Exact date"_s);
     EXPECT_TRUE(field->hasFocus());
     const QPoint beside = field->geometry().topLeft() - QPoint(1, 1);
     EXPECT_EQ(page.grab().toImage().pixelColor(beside), QColor(255, 0, 0));
     system.clock.Set(2026, 3, 4, 9, 0);
     Click(u"Exact date: Tuesday"_s); // has passed
-    system.dialogs.Expect_Message(u"Selected (Days setup->Exact date) day is invalid"_s);
-    EXPECT_FALSE(page.Save_DateSetup_To_Reminder(reminder, ShowErrors::Yes));
+    EXPECT_EQ(page.Store(reminder), u"Selected (Days setup->Exact date) day is invalid"_s);
+    page.Mark_Fault();
     EXPECT_TRUE(Named<ChkBox>(u"Exact date: Tuesday"_s)->hasFocus());
-    system.clock.Set(2026, 3, 2, 9, 0);
-    page.Set_LoadingView(true);
-    Click(u"Exact date: Today"_s);
-    EXPECT_EQ(nextRun, Today + 18);
 }
 
 TEST_F(Pages, A_start_date_beside_an_exact_date_is_refused_with_a_beep) {
-    DatePage& page = Open<DatePage>();
-    page.Load_View(reminder);
+    Open_DatePage();
     Click(u"Exact date: Today"_s);
     nextRun = -9;
     Click(u"Start: Tomorrow"_s);
@@ -157,8 +145,7 @@ TEST_F(Pages, A_start_date_beside_an_exact_date_is_refused_with_a_beep) {
 
 TEST_F(Pages, This_and_Next_are_chosen_by_mouse_and_by_keyboard) {
     system.clock.Set(2026, 3, 4, 9, 0); // Wednesday
-    DatePage& page = Open<DatePage>();
-    page.Load_View(reminder);
+    DatePage& page = Open_DatePage();
     const QList<QRadioButton*> options = page.findChildren<QRadioButton*>();
     ASSERT_EQ(options.size(), 4);
     QTest::mouseClick(options[0], Qt::LeftButton, {}, {6, 8});
@@ -169,13 +156,12 @@ TEST_F(Pages, This_and_Next_are_chosen_by_mouse_and_by_keyboard) {
     EXPECT_FALSE(Named<ChkBox>(u"Exact date: Tuesday"_s)->Is_Blocked());
     Click(u"Exact date: Tuesday"_s);
     EXPECT_EQ(nextRun, Today + 8);
-    page.Clear_View();
+    page.Load(reminder);
     EXPECT_FALSE(options[1]->isChecked());
 }
 
 TEST_F(Pages, The_calendar_gives_its_date_to_the_field_that_asked) {
-    DatePage& page = Open<DatePage>();
-    page.Load_View(reminder);
+    Open_DatePage();
     Click(u"Exact date: On:"_s);
     Type(u"Exact date"_s, u"04/05/----"_s);
     Click(u"Exact date: Every year"_s);
@@ -197,8 +183,7 @@ TEST_F(Pages, The_calendar_gives_its_date_to_the_field_that_asked) {
 
 TEST_F(Pages, The_clock_follows_its_cell_and_the_cell_its_clock) {
     reminder.AddNewHourSetup({-1, 600, 840, 90});
-    hours = &Open<HourPage>();
-    hours->Show_HourSetup_List(reminder);
+    Open_HourPage();
     QTest::mouseClick(Named<QLineEdit>(u"Row 1: every"_s), Qt::LeftButton);
     EXPECT_EQ(Clock(), nullptr);
     QTest::mouseClick(Named<QLineEdit>(u"Row 1: until"_s), Qt::LeftButton);
@@ -223,7 +208,7 @@ TEST_F(Pages, The_clock_follows_its_cell_and_the_cell_its_clock) {
 }
 
 TEST_F(Pages, The_clock_goes_when_the_user_is_elsewhere) {
-    Open<HourPage>();
+    Open_HourPage();
     auto* field = Named<QLineEdit>(u"At"_s);
     auto* timer = window->findChild<QTimer*>(u"frmClockFocusTimer"_s);
     QSignalSpy ticks(timer, &QTimer::timeout);
@@ -246,16 +231,13 @@ TEST_F(Pages, The_clock_goes_when_the_user_is_elsewhere) {
 TEST_F(Pages, Rows_are_ticked_edited_and_deleted) {
     for (int hour = 1; hour <= 3; ++hour)
         reminder.AddNewHourSetup({-1, static_cast<std::int16_t>(hour * 60), 0, 0});
-    hours = &Open<HourPage>();
-    hours->Show_HourSetup_List(reminder);
+    Open_HourPage();
     Click(u"Row 2 enabled"_s);
     EXPECT_EQ(reminder.GetHourSetup(1).Enabled, 0);
     Click(u"Row 2 enabled"_s);
     EXPECT_EQ(reminder.GetHourSetup(1).Enabled, 0); // until the save
     Type(u"Row 3: at"_s, u"bad"_s);
-    system.dialogs.Expect_Message(u"Invalid time: \r\nbad"_s);
     QTest::mouseClick(Named<HrDelLabel>(u"Delete row 1"_s), Qt::LeftButton);
-    EXPECT_EQ(shownPage, EditPage::HoursSetup);
     EXPECT_EQ(hours->findChild<HourList*>()->Row_Count(), 3);
     Type(u"Row 3: at"_s, u"04:00"_s);
     Named<HrDelLabel>(u"Delete row 1"_s)->setFocus();
@@ -263,10 +245,10 @@ TEST_F(Pages, Rows_are_ticked_edited_and_deleted) {
     EXPECT_EQ(Starts(), u"02:0004:00"_s);
     // A refused save leaves no row behind, and adding one brings none back to what it was.
     Type(u"Row 1: at"_s, u"bad"_s);
-    EXPECT_FALSE(hours->Save_HourSetup_List(ShowErrors::No));
+    EXPECT_EQ(hours->Store(reminder), u"Invalid time: \r\nbad"_s);
     Press(u"Add to list: At"_s);
     Type(u"Row 1: at"_s, u"01:30"_s);
-    EXPECT_TRUE(hours->Save_HourSetup_List(ShowErrors::Yes));
+    EXPECT_EQ(hours->Store(reminder), QString());
     EXPECT_EQ(Starts(), u"01:3004:0020:30"_s);
     goesOnSave = true;
     QTest::mouseClick(Named<HrDelLabel>(u"Delete row 1"_s), Qt::LeftButton);
@@ -278,8 +260,7 @@ TEST_F(Pages, Rows_are_ticked_edited_and_deleted) {
 TEST_F(Pages, A_list_without_end_scrolls_and_saves) {
     for (int row = 0; row < 30000; ++row)
         reminder.AddNewHourSetup({-1, static_cast<std::int16_t>(row % 1440), 0, 0});
-    hours = &Open<HourPage>();
-    hours->Show_HourSetup_List(reminder);
+    Open_HourPage();
     EXPECT_LT(hours->findChildren<HourRowView*>().size(), 20);
     auto* list = hours->findChild<HourList*>();
     list->Scroll_To(29999);
@@ -294,7 +275,7 @@ TEST_F(Pages, A_list_without_end_scrolls_and_saves) {
     QTest::mouseMove(label, label->rect().center());
     EXPECT_TRUE(label->Is_Hot());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !label->Is_Hot(); })); // the cursor is elsewhere
-    EXPECT_TRUE(hours->Save_HourSetup_List(ShowErrors::Yes));
+    EXPECT_EQ(hours->Store(reminder), QString());
     EXPECT_EQ(reminder.GetHourSetup(29999).StartMinute, 671);
 }
 
