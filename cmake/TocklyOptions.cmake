@@ -21,6 +21,9 @@ if(TOCKLY_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tockly_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(TOCKLY_FUZZ)
+  target_compile_options(tockly_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # One floor of the house: a static library of the folder's sources.
 function(tockly_floor name)

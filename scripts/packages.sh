@@ -8,6 +8,7 @@ packages_test="x11-xserver-utils fonts-dejavu-core libgtest-dev libgmock-dev lib
   wmctrl xclip faketime"
 packages_bench="libbenchmark-dev dbus-daemon"
 packages_check="clang-format-14 clang-tidy-14"
+packages_fuzz="clang-14 libclang-rt-14-dev"
 
 # need_packages NAME...: installs what is missing. Where it may not, it names the one command.
 need_packages() {

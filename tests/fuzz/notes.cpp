@@ -1,0 +1,13 @@
+#include "fuzz.h"
+#include "notes/notes_store.h"
+
+void Try(Ground& ground) {
+    Init_Notes();
+    if (Load_Notes_File(ground.file) != 0) {
+        return;
+    }
+    Must(Save_Notes_File(ground.file));
+    const std::string saved = ground.Bytes();
+    Must(Load_Notes_File(ground.file) == 0 && Save_Notes_File(ground.file));
+    Must(ground.Bytes() == saved);
+}
