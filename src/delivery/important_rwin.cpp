@@ -51,6 +51,7 @@ void frmImportantRWin::Show_Window() {
     platform::Windows& windows = platform::Windows::Get();
     windows.Leave_TaskBar(winId());
     windows.Show_Everywhere(winId());
+    windows.Stay_Quiet(winId());
     if (Global_IsWinXP && Global_UseTransparency) {
         Global_Transparency().DoFadeIn(this);
         Global_Transparency().Enable_TC_Timer();
@@ -68,6 +69,7 @@ void frmImportantRWin::Show_Window() {
 void frmImportantRWin::Come_Up() {
     if (closed)
         return;
+    platform::Windows::Get().Stay_Quiet(winId());
     platform::Windows::Get().Raise(winId(), platform::RaiseOver::All);
     move(shownAt);
 }

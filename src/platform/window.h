@@ -27,7 +27,8 @@ public:
     virtual void On_Restack(std::function<void()> handler) = 0;
     // On every workspace. To be set before every map.
     virtual void Show_Everywhere(WindowId window) = 0;
-    // The window calls for no attention by having come without the focus.
+    // The window comes without the focus, and calls for no attention by that. To be set before
+    // every map, and once more when the window is on view: from then on a click focuses it.
     virtual void Stay_Quiet(WindowId window) = 0;
     // No entry in the task bar or pager. The state is lost on hiding: to be set before every map.
     virtual void Leave_TaskBar(WindowId window) = 0;

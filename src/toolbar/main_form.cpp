@@ -234,6 +234,16 @@ void MainForm::Stand_Apart() {
 void MainForm::Take_Place() {
     if (live.Width == mappedAt.Width && live.Height == mappedAt.Height) {
         Set_Bounds(mappedAt);
+        QTimer::singleShot(AnswerTime, this, &MainForm::Keep_Place);
+    }
+}
+
+// Some say late that they have moved it, and have made it higher as well: such bounds are not taken
+// over.
+void MainForm::Keep_Place() {
+    const QPoint place(TwipsX_To_Pixels(live.Left), TwipsY_To_Pixels(live.Top));
+    if (live == mappedAt && pos() != place) {
+        move(place);
     }
 }
 

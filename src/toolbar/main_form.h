@@ -136,6 +136,7 @@ private:
 
     void Stand_Apart();
     void Take_Place();
+    void Keep_Place();
     void Finish_Look();
 
     // x: pixels on the strip, cursor: on the screen.

@@ -37,6 +37,17 @@ void Set_State(WindowId window, const char* name, StateAction action) {
     x11::Tell_Manager(Native(window), "_NET_WM_STATE", {action, state, 0, FromApplication, 0});
 }
 
+// The first two fields of the hints: which of them count, and whether a click brings the focus.
+void Take_Keyboard(xcb_window_t window, bool takes) {
+    constexpr std::uint32_t inputCounts = 1;
+    constexpr std::size_t allHints = 9;
+    auto hints = x11::Items(window, "WM_HINTS");
+    hints.resize(allHints);
+    hints[0] |= inputCounts;
+    hints[1] = takes ? 1U : 0U;
+    x11::Set_Items(window, "WM_HINTS", XCB_ATOM_WM_HINTS, hints);
+}
+
 class LinuxWindows : public Windows {
 public:
     void Set_Topmost(WindowId window, bool topmost) override {
@@ -65,8 +76,10 @@ public:
         }
     }
 
+    // Some window managers give the focus to whatever appears, unless it wants no keyboard at all.
     void Stay_Quiet(WindowId window) override {
         Set_State(window, "_NET_WM_STATE_DEMANDS_ATTENTION", RemoveState);
+        Take_Keyboard(Native(window), x11::Is_Mapped(Native(window)));
     }
 
     void Leave_TaskBar(WindowId window) override {
@@ -91,6 +104,7 @@ public:
         }
         const std::uint32_t raise = XCB_STACK_MODE_ABOVE;
         const std::uint32_t now = x11::Server_Time();
+        Take_Keyboard(Native(window), true);
         xcb_configure_window(server, Native(window), XCB_CONFIG_WINDOW_STACK_MODE, &raise);
         x11::Set_Items(Native(window), "_NET_WM_USER_TIME", XCB_ATOM_CARDINAL, {now});
         if (x11::Has_Manager()) {
