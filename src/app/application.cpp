@@ -7,8 +7,6 @@
 #include "controls/program_end.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
-#include "core/remind_again.h"
-#include "core/reminder_store.h"
 #include "delivery/deliver.h"
 #include "delivery/message_queue.h"
 #include "delivery/missed_reminders.h"
@@ -25,7 +23,7 @@
 
 using namespace Qt::StringLiterals;
 
-Application::Application() {
+Application::Application() : watch(timers, Watch_Ports()) {
     Set_Program_Ending(false);
     Global_Timers = &timers;
 }
@@ -55,15 +53,15 @@ bool Application::Load() {
     return true;
 }
 
+ReminderWatch::Ports Application::Watch_Ports() {
+    return {Deliver_Reminder, Show_SwallowedReminders, [this] {
+                if (background != nullptr) {
+                    background->Note_Change();
+                }
+            }};
+}
+
 void Application::Connect_Timers() {
-    timers.On_Tick(TimerName::R_CheckDate_Timer, [this] { Check_Reminders(); });
-    timers.On_Tick(TimerName::Check_Ra_Reminders_Timer, [this] {
-        const std::int32_t before = Global_RA_Last;
-        Check_RA_Reminders(Deliver_Reminder);
-        if (background != nullptr && Global_RA_Last != before) {
-            background->Note_Change();
-        }
-    });
     timers.On_Tick(TimerName::S_Reminder_Timer, Message_Tick);
     timers.On_Tick(TimerName::UnloadFormsTimer, UnloadFormsTimer_Tick);
     timers.On_Tick(TimerName::TK_AppMessage_Timer, [this] {
@@ -78,22 +76,6 @@ void Application::Connect_Timers() {
             }
         }
     });
-}
-
-void Application::Check_Reminders() {
-    const Moment now = Read_Moment();
-    bool changes = !lastCheck || lastCheck->Today != now.Today; // the day moves marks of schedules
-    if (lastCheck) {
-        Show_SwallowedReminders(*lastCheck, now);
-    }
-    lastCheck = now;
-    Check_AllReminders([&changes](std::int32_t index) {
-        changes = true;
-        Deliver_Reminder(index);
-    });
-    if (background != nullptr && changes) {
-        background->Note_Change();
-    }
 }
 
 void Application::Show_Again() {

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "accessories/help/help_keys.h"
+#include "app/reminder_watch.h"
 #include "controls/file_drops.h"
 #include "controls/timers.h"
-#include "core/time_routines.h"
 #include "platform/session.h"
 #include "settings/global_settings.h"
 #include "toolbar/toolbar_commands.h"
@@ -14,7 +14,6 @@
 #include <QStringList>
 
 #include <memory>
-#include <optional>
 
 class BackgroundSave;
 class MainForm;
@@ -77,8 +76,8 @@ private:
     LiveGeometry Live_Geometry() const;
     // Saves everything once, in order; shows nothing.
     void CloseProgram();
+    ReminderWatch::Ports Watch_Ports();
     void Connect_Timers();
-    void Check_Reminders();
     // True for the first call: the program ends now.
     bool Begin_Ending();
 
@@ -86,11 +85,11 @@ private:
     HelpKeys helpKeys;
     QString programFolder;
     Timers timers;
+    ReminderWatch watch;
     ToolbarCommands commands;
     std::unique_ptr<MainForm> mainForm;
     std::unique_ptr<BackgroundSave> background; // from the end of the load to the end
     bool loaded = false;
-    std::optional<Moment> lastCheck;
     bool saved = false;
     bool windowsGone = false;
     QStringList saveFailures; // one line for each table that could not be saved

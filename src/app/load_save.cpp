@@ -210,7 +210,7 @@ void Application::Start_Toolbar() {
 }
 
 void Application::Start_Timers() {
-    lastCheck = Read_Moment();
+    watch.Start();
     timers.Start_FirstTimers();
     Start_BackgroundSave();
 }

@@ -3,6 +3,7 @@
 #include "core/date_text.h"
 #include "core/record_stream.h"
 #include "core/reminder_store.h"
+#include "core/reminder_tick.h"
 #include "platform/files.h"
 
 #include <QLocale>
@@ -158,6 +159,7 @@ void Add_RA_Reminder(std::int32_t id, std::int32_t id2, Day day, std::int32_t mi
         Global_RA_Reminders.resize(index + EntryStep);
     Global_RA_Reminders[index] = {day, minute, id, id2};
     Global_RA_Last = static_cast<std::int32_t>(index);
+    ReminderTick::Note_Change();
 }
 
 void Remove_RA_Reminder(std::int32_t index) {
@@ -172,6 +174,13 @@ RA_Due RA_Check(const RA_Entry& entry, const Moment& now) {
     if (now.Today == entry.Day && now.Minute >= entry.Minute)
         return RA_Due::Deliver;
     return now.Today > entry.Day ? RA_Due::Drop : RA_Due::NotYet;
+}
+
+bool RA_Is_Due(const Moment& now) {
+    const auto end = Global_RA_Reminders.begin() + static_cast<std::ptrdiff_t>(Used_Entries());
+    return std::any_of(Global_RA_Reminders.begin(), end, [&now](const RA_Entry& entry) {
+        return RA_Check(entry, now) != RA_Due::NotYet;
+    });
 }
 
 void Check_RA_Reminders(const std::function<void(std::int32_t)>& deliver) {

@@ -51,6 +51,8 @@ void Remove_RA_Reminder(std::int32_t index);
 
 enum class RA_Due { NotYet, Deliver, Drop };
 RA_Due RA_Check(const RA_Entry& entry, const Moment& now);
+// A pass would take an entry out of the queue now.
+bool RA_Is_Due(const Moment& now);
 // One pass over the queue. deliver gets the slot of Global_Reminders; entries of deleted reminders
 // go silently.
 void Check_RA_Reminders(const std::function<void(std::int32_t index)>& deliver);

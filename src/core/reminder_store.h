@@ -3,12 +3,12 @@
 
 #include "core/record_stream.h"
 #include "core/reminder.h"
+#include "core/reminder_tick.h"
 #include "core/table_file.h"
 
 #include <QString>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,17 +16,19 @@
 
 class ReminderRef;
 
-// A slot's own reminder, used like a unique_ptr. It remembers until when the check of every second
-// has nothing to ask it; whoever reaches it otherwise than by Peek may change it, and makes it
-// asked again.
+// A slot's own reminder, used like a unique_ptr. It remembers until when a check has nothing to ask
+// it. Whoever reaches it otherwise than by Peek may change it, and makes it asked again; what is
+// reached is for the handler at hand, not to be kept.
 class ReminderOwner {
 public:
     ReminderOwner() = default;
     ReminderOwner(std::nullptr_t) {}
-    ReminderOwner(std::unique_ptr<ReminderClass> reminder) : Reminder(std::move(reminder)) {}
+    ReminderOwner(std::unique_ptr<ReminderClass> reminder) : Reminder(std::move(reminder)) {
+        ReminderTick::Note_Change();
+    }
 
     ReminderClass* get() const {
-        QuietUntil = 0;
+        End_Quiet();
         return Reminder.get();
     }
     ReminderClass* operator->() const { return get(); }
@@ -37,12 +39,16 @@ public:
     bool operator==(std::nullptr_t) const { return Reminder == nullptr; }
     void reset() { *this = {}; }
 
+    MinuteCount Quiet_Until() const { return QuietUntil; }
     bool Is_Quiet(MinuteCount now) const { return now < QuietUntil; }
     // Engine_CheckRunReminder, which finds the next quiet time.
     bool Check_Run(const Moment& now) const {
         return Reminder->Engine_CheckRunReminder(now, QuietUntil);
     }
-    void End_Quiet() const { QuietUntil = 0; }
+    void End_Quiet() const {
+        QuietUntil = 0;
+        ReminderTick::Note_Change();
+    }
 
 private:
     mutable MinuteCount QuietUntil = 0;
@@ -59,11 +65,6 @@ extern std::vector<ReminderSlot> Global_Reminders;
 
 // 0..50, all free.
 void Init_Reminders();
-
-// The check of every second: asks each used reminder that is not pending, in slot order, whether it
-// fires now, and delivers it at once, before the next is asked. deliver gets the slot and may add,
-// delete and edit reminders; slots that it adds are asked at the next tick.
-void Check_AllReminders(const std::function<void(std::int32_t index)>& deliver);
 
 // Loads the table. 0; -1 wrong header or unreadable, -2 version not known: then the table is empty
 // (0..20) and the file's damaged bytes are kept aside before a later save replaces them.

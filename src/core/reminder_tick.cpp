@@ -1,39 +1,51 @@
-// The check of every second over the table of reminders.
+#include "core/reminder_tick.h"
+
 #include "core/reminder_store.h"
 
-namespace {
+#include <algorithm>
+#include <limits>
+#include <utility>
 
-// Within so many ticks each reminder is asked once although it is said to be quiet: somebody may
-// have kept a reference to it and changed it since.
-constexpr std::size_t ticksOfRound = 60;
+ReminderTick::ReminderTick(std::function<void()> heard)
+    : before(std::exchange(current, this)), onChange(std::move(heard)) {}
 
-MinuteCount lastTick = 0;
-std::size_t turn = 0;
+ReminderTick::~ReminderTick() {
+    current = before;
+}
+
+void ReminderTick::Begin_Change() {
+    changed = true;
+    if (onChange)
+        onChange();
+}
 
 // A clock that went back makes hours due that were behind it.
-void Follow_Clock(MinuteCount now) {
-    if (now < lastTick) {
+void ReminderTick::Follow_Clock(MinuteCount now) {
+    if (now < last) {
         for (const ReminderSlot& slot : Global_Reminders)
             slot.Reminder.End_Quiet();
     }
-    lastTick = now;
+    last = now;
 }
 
-} // namespace
-
-void Check_AllReminders(const std::function<void(std::int32_t)>& deliver) {
+void ReminderTick::Check(const std::function<void(std::int32_t)>& deliver) {
     Moment now = Read_Moment();
-    Follow_Clock(now.Count());
-    const std::size_t bound = Global_Reminders.size();
-    const std::size_t share = bound / ticksOfRound + 1;
-    const std::size_t askedAnyway = turn * share;
-    turn = (turn + 1) % ticksOfRound;
     MinuteCount count = now.Count();
+    Follow_Clock(count);
+    if (count < Quiet_Until())
+        return;
+    changed = false;
+    quietUntil = 0;
+    const std::uint32_t check = ++checks;
+    MinuteCount due = std::numeric_limits<MinuteCount>::max();
+    const std::size_t bound = Global_Reminders.size();
     for (std::size_t index = 0; index < bound && index < Global_Reminders.size(); ++index) {
         const ReminderSlot& slot = Global_Reminders[index];
-        if (slot.Reminder.Is_Quiet(count) && index - askedAnyway >= share)
+        if (!slot.Used || slot.Pending)
             continue;
-        if (!slot.Used || slot.Pending || !slot.Reminder.Check_Run(now))
+        const bool fires = !slot.Reminder.Is_Quiet(count) && slot.Reminder.Check_Run(now);
+        due = std::min(due, slot.Reminder.Quiet_Until());
+        if (!fires)
             continue;
         deliver(static_cast<std::int32_t>(index));
         // A delivery may have handled events for a while, even over midnight.
@@ -41,4 +53,8 @@ void Check_AllReminders(const std::function<void(std::int32_t)>& deliver) {
         count = now.Count();
         Follow_Clock(count);
     }
+    // Another check inside a delivery has seen the table otherwise than this one.
+    if (check != checks)
+        changed = true;
+    quietUntil = due;
 }

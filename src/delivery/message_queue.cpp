@@ -33,7 +33,7 @@ const ReminderClass* Find_Reminder(std::int32_t index) {
     if (index < 0 || static_cast<std::size_t>(index) >= Global_Reminders.size())
         return nullptr;
     const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
-    return slot.Used ? slot.Reminder.get() : nullptr;
+    return slot.Used ? &slot.Reminder.Peek() : nullptr;
 }
 
 // Nothing when the reminder is in the queue already.

@@ -30,6 +30,9 @@ public:
     // Calls work once, from the event loop, when so many ms of this clock have passed; never when
     // the context is gone by then.
     virtual void Call_Later(int milliseconds, QObject* context, std::function<void()> work) = 0;
+    // Calls work once, from the event loop, when the wall clock has come to its next minute, or at
+    // once when it is set or the machine wakes before; never when the context is gone by then.
+    virtual void Call_NextMinute(QObject* context, std::function<void()> work) = 0;
 
     // Plain subtraction on the wrapping counter, ms.
     std::int32_t Milliseconds_Since(std::int32_t start) {

@@ -80,7 +80,13 @@ void MainForm::Show_HideDisabledMessage() {
     }
 }
 
+// The looks end while nothing can come of them: the settings, the way back of the strip and the
+// mouse that touches or leaves it begin them again.
 void MainForm::AutoHideTimer_Tick() {
+    if (!Global_Autohide_Enabled || Is_Collapsed() || !isVisible()) {
+        Enable_Timer(TimerName::AutoHideTimer, false);
+        return;
+    }
     AutoHideMoment moment;
     moment.Enabled = Global_Autohide_Enabled;
     moment.Collapsed = Is_Collapsed();
@@ -95,6 +101,14 @@ void MainForm::AutoHideTimer_Tick() {
     moment.LinksMenuVisible = ports.LinksMenu_Visible && ports.LinksMenu_Visible();
     if (AutoHide_Is_Due(moment)) {
         AutoHide_HideProc(Get_Best_Auto_HideMode(false), false);
+    } else if (moment.Cursor_Rests() && underMouse()) {
+        Enable_Timer(TimerName::AutoHideTimer, false);
+    }
+}
+
+void MainForm::Watch_Mouse() {
+    if (Global_Autohide_Enabled && isVisible() && !Is_Collapsed()) {
+        Enable_Timer(TimerName::AutoHideTimer, true);
     }
 }
 

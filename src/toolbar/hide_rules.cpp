@@ -42,12 +42,5 @@ HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, const QRect& s
 }
 
 bool AutoHide_Is_Due(const AutoHideMoment& moment) {
-    if (!moment.Has_Waited()) {
-        return false;
-    }
-    const ToolbarRect& strip = moment.Bounds;
-    const bool rests = moment.Cursor && moment.Cursor->x >= strip.Left &&
-                       moment.Cursor->x <= strip.Right && moment.Cursor->y >= strip.Top &&
-                       moment.Cursor->y <= strip.Bottom;
-    return !rests && !moment.LinksMenuVisible;
+    return moment.Has_Waited() && !moment.Cursor_Rests() && !moment.LinksMenuVisible;
 }

@@ -19,7 +19,7 @@ CloseAction CloseAction_OfAnswer(int answer);
 // width. Tried in the order top, bottom, left, right.
 HideMode Best_HideMode(const ToolbarRect& bounds, int scaleWidth, const QRect& screen);
 
-// What AutoHide looks at, once a second.
+// What AutoHide looks at.
 struct AutoHideMoment {
     bool Enabled = false;
     bool Collapsed = false;
@@ -34,6 +34,10 @@ struct AutoHideMoment {
     bool Has_Waited() const {
         return Enabled && !Collapsed && !MessageActive && SinceMouseOver >= WaitTime;
     }
+    // A mouse that rests on the strip counts as present; the strip's edges belong to it.
+    bool Cursor_Rests() const {
+        return Cursor && Cursor->x >= Bounds.Left && Cursor->x <= Bounds.Right &&
+               Cursor->y >= Bounds.Top && Cursor->y <= Bounds.Bottom;
+    }
 };
-// A mouse that rests on the strip counts as present; the strip's edges belong to it.
 bool AutoHide_Is_Due(const AutoHideMoment& moment);

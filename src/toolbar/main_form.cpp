@@ -92,6 +92,7 @@ void MainForm::Load_Window(const StartPlace& place) {
 
 void MainForm::MouseOver() {
     LastMouseOver = platform::Clock::Get().Milliseconds();
+    Watch_Mouse();
 }
 
 void MainForm::Set_Bounds(const TwipsRect& wanted) {
@@ -174,6 +175,10 @@ void MainForm::Stay_OnScreens() {
     const DragScreen screens = DragScreen::Now();
     saved = ToolbarDrag::Brought_In(saved, screens);
     Set_Bounds(ToolbarDrag::Brought_In(live, screens));
+}
+
+void MainForm::leaveEvent(QEvent*) {
+    Watch_Mouse();
 }
 
 void MainForm::changeEvent(QEvent* event) {

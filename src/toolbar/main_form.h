@@ -106,6 +106,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -154,6 +155,7 @@ private:
     bool Close_Offered(HideOption option) const;
 
     void AutoHideTimer_Tick();
+    void Watch_Mouse();
     void Collapse_Strip(HideMode mode);
     void Collapse_Step();
     void Hide_Completely();

@@ -9,7 +9,7 @@ void Try(Ground& ground) {
         return;
     }
     for (int tick = 0; tick < 48; ++tick) {
-        Check_AllReminders([](std::int32_t) {});
+        ReminderTick().Check([](std::int32_t) {});
         ground.clock.Advance(1801000);
     }
     for (const ReminderSlot& slot : Global_Reminders) {

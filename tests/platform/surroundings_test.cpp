@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -31,6 +32,36 @@ TEST(Clock, what_is_to_be_called_later_comes_in_its_time_and_goes_with_its_conte
     while (called.size() < 2 && clock->Milliseconds_Since(start) < 10'000)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     EXPECT_EQ(called, u"ab"_s);
+}
+
+// What the kernel knows of the timers on the wall clock.
+static QString Wall_Timers() {
+    QString found;
+    for (const QString& name : QDir(u"/proc/self/fdinfo"_s).entryList(QDir::Files)) {
+        QFile file(u"/proc/self/fdinfo/"_s + name);
+        const QString text =
+            file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        if (text.contains("clockid: 0\n"_L1)) {
+            found += text;
+        }
+    }
+    return found;
+}
+
+TEST(Clock, the_wait_for_the_next_minute_ends_with_a_step_of_the_clock_and_goes_with_its_context) {
+    const auto clock = platform::Make_Clock();
+    const QString before = Wall_Timers();
+    QObject context;
+    auto gone = std::make_unique<QObject>();
+    clock->Call_NextMinute(gone.get(), [] { FAIL(); });
+    const QString timer = Wall_Timers();
+    gone.reset();
+    EXPECT_EQ(Wall_Timers(), before);
+    EXPECT_TRUE(timer.contains("settime flags: 03"_L1))
+        << timer.toStdString(); // absolute, cancelled
+    const QRegularExpressionMatch left = QRegularExpression(u"it_value: \\((\\d+),"_s).match(timer);
+    const int full = 60 - clock->Now().second;
+    EXPECT_NEAR(left.captured(1).toInt() % 60, full % 60, 2) << timer.toStdString();
 }
 
 TEST(Clock, a_measurement_crosses_the_end_of_the_counter) {

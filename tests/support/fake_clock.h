@@ -18,6 +18,7 @@ public:
 
     void Set(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
         now = QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
+        Tell_OfStep();
     }
     // Moves both clocks on.
     void Advance(qint64 milliseconds) {
@@ -40,7 +41,10 @@ public:
     // Moves both on as a machine that hangs does: whoever was to be called is late.
     void Pass(qint64 milliseconds) { Pass_To(passed + milliseconds); }
     // Moves the wall clock alone, as a person or a zone change does.
-    void Jump(qint64 seconds) { now = now.addSecs(seconds); }
+    void Jump(qint64 seconds) {
+        now = now.addSecs(seconds);
+        Tell_OfStep();
+    }
     void Set_Milliseconds(std::int32_t value) { ticks = static_cast<std::uint32_t>(value); }
 
     platform::LocalTime Now() override {
@@ -51,7 +55,17 @@ public:
     }
     std::int32_t Milliseconds() override { return static_cast<std::int32_t>(ticks); }
     void Call_Later(int milliseconds, QObject* context, std::function<void()> work) override {
-        later.push_back({passed + std::max(milliseconds, 0), context, std::move(work)});
+        later.push_back({passed + std::max(milliseconds, 0), context, std::move(work), false});
+    }
+    void Call_NextMinute(QObject* context, std::function<void()> work) override {
+        const QTime time = now.time();
+        const int left = 60'000 - time.second() * 1000 - time.msec();
+        later.push_back({passed + left, context, std::move(work), true});
+    }
+    // Calls that wait.
+    std::size_t Waiting() const {
+        return static_cast<std::size_t>(std::count_if(
+            later.begin(), later.end(), [](const Later& call) { return !call.context.isNull(); }));
     }
 
 private:
@@ -59,7 +73,20 @@ private:
         qint64 due = 0;
         QPointer<QObject> context;
         std::function<void()> work;
+        bool endsWithStep = false;
     };
+
+    void Tell_OfStep() {
+        const auto first = std::stable_partition(
+            later.begin(), later.end(), [](const Later& call) { return !call.endsWithStep; });
+        const std::vector<Later> told(first, later.end());
+        later.erase(first, later.end());
+        for (const Later& call : told) {
+            if (call.context) {
+                call.work();
+            }
+        }
+    }
 
     // Work that is called may have moved the clock further already.
     void Pass_To(qint64 time) {

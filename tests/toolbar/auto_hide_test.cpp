@@ -148,11 +148,21 @@ TEST_F(AutoHideTest, It_hides_by_itself_when_the_mouse_has_been_away_long_enough
     Global_ToolbarMessages[4].Active = true;
     EXPECT_FALSE(tick(0));
     Global_ToolbarMessages[4].Active = false;
+    // Looks of which nothing can come end, and the mouse begins them again.
+    const auto looks = [this] { return timers.Is_Enabled(TimerName::AutoHideTimer); };
+    EXPECT_TRUE(looks());
     Global_Autohide_Enabled = false;
     EXPECT_FALSE(tick(0));
+    form.MouseOver();
+    EXPECT_FALSE(looks());
     Global_Autohide_Enabled = true;
-    EXPECT_TRUE(tick(0));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&form, &leave);
+    EXPECT_TRUE(looks());
+    EXPECT_TRUE(tick(5000));
+    EXPECT_TRUE(looks());
     EXPECT_TRUE(tick(1000));
+    EXPECT_FALSE(looks());
     EXPECT_EQ(Place(), QRect(100, 50, 10, 20)); // left of the middle
 
     form.AutoHide_ShowProc(false);

@@ -1,6 +1,7 @@
 #include "accessories/setup/setup_rules.h"
 
 #include "accessories/setup/run_key.h"
+#include "controls/timers.h"
 #include "controls/toolbar.h"
 #include "core/date_text.h"
 #include "platform/session.h"
@@ -36,6 +37,13 @@ std::int32_t Wait_Seconds(const QString& text) {
                 : LongestWait;
 }
 
+// Its looks have ended while it was off.
+void Set_AutoHide(bool enabled) {
+    Global_Autohide_Enabled = enabled;
+    if (enabled && Global_Timers != nullptr)
+        Global_Timers->Enable(TimerName::AutoHideTimer);
+}
+
 } // namespace
 
 SetupView Load_Settings_To_View() {
@@ -67,7 +75,7 @@ std::optional<SetupRefusal> Save_View_To_Settings(const SetupView& view) {
         Global_UseShadows = view.UseShadows;
         Global_UseTransparency = view.UseTransparency;
     }
-    Global_Autohide_Enabled = view.EnableAutoHide;
+    Set_AutoHide(view.EnableAutoHide);
     Global_Autohide_SelectedHideMode = view.HideOption < 0 ? -1 : view.HideOption - 1;
     Write_RunKey(view.RunAtStartUp);
     return std::nullopt;
@@ -88,7 +96,7 @@ QString Apply_Wizard_Settings(const WizardView& view) {
     Global_DateFormat = isValid ? view.DateFormat
                                 : Default_DateFormat(platform::Session::Get().Short_Date_Pattern());
     Global_Autohide_WaitTime = WizardWait;
-    Global_Autohide_Enabled = view.EnableAutoHide;
+    Set_AutoHide(view.EnableAutoHide);
     Global_Autohide_SelectedHideMode =
         static_cast<std::int32_t>(view.SystemTray ? HideMode::TrayIcon : HideMode::Best);
     Write_RunKey(view.LoadOnStartup);

@@ -71,8 +71,12 @@ ReminderRef Make_PendingReminder(const Moment& now) {
 }
 
 void Accept_Pending(const ReminderRef& pending) {
-    if (const std::int32_t index = pending.Slot(); index != -1)
-        Global_Reminders[static_cast<std::size_t>(index)].Pending = false;
+    const std::int32_t index = pending.Slot();
+    if (index == -1)
+        return;
+    ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
+    slot.Pending = false;
+    slot.Reminder.End_Quiet();
 }
 
 void Drop_Pending(const ReminderRef& pending) {

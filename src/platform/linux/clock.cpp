@@ -1,15 +1,62 @@
 #include "platform/clock.h"
 
+#include "platform/linux/descriptor.h"
 #include "platform/providers.h"
 
+#include <QObject>
+#include <QSocketNotifier>
 #include <QTimer>
 
+#include <cstdint>
 #include <ctime>
+#include <sys/timerfd.h>
 #include <utility>
 
 namespace platform {
 
 namespace {
+
+constexpr std::int64_t Minute = 60; // seconds
+
+std::int64_t Wall_Seconds() {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return now.tv_sec;
+}
+
+// A timer on the wall clock. It ends with the sleep of the machine, which the clocks that run while
+// it is awake do not count, and with a step of the clock.
+Descriptor Start_MinuteTimer() {
+    Descriptor timer(timerfd_create(CLOCK_REALTIME, TFD_CLOEXEC | TFD_NONBLOCK));
+    itimerspec wish{};
+    // Again when the clock was set back between the two calls.
+    do {
+        wish.it_value.tv_sec = (Wall_Seconds() / Minute + 1) * Minute;
+        if (timerfd_settime(timer.Number(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &wish,
+                            nullptr) != 0)
+            return Descriptor();
+    } while (wish.it_value.tv_sec > Wall_Seconds() + Minute);
+    return timer;
+}
+
+// Waits for the next minute as a child of whoever asked for it.
+class MinuteWait : public QObject {
+public:
+    MinuteWait(QObject* context, Descriptor started, std::function<void()> work)
+        : QObject(context), timer(std::move(started)),
+          notifier(timer.Number(), QSocketNotifier::Read) {
+        connect(&notifier, &QSocketNotifier::activated, this, [this, work = std::move(work)] {
+            notifier.setEnabled(false);
+            deleteLater();
+            const auto now = work; // may release the context
+            now();
+        });
+    }
+
+private:
+    Descriptor timer;
+    QSocketNotifier notifier;
+};
 
 class LinuxClock : public Clock {
 public:
@@ -38,6 +85,15 @@ public:
 
     void Call_Later(int milliseconds, QObject* context, std::function<void()> work) override {
         QTimer::singleShot(milliseconds, Qt::PreciseTimer, context, std::move(work));
+    }
+
+    void Call_NextMinute(QObject* context, std::function<void()> work) override {
+        if (Descriptor timer = Start_MinuteTimer(); timer.Is_Open()) {
+            new MinuteWait(context, std::move(timer), std::move(work));
+            return;
+        }
+        const auto left = static_cast<int>(Minute - Wall_Seconds() % Minute);
+        Call_Later(left * 1000, context, std::move(work));
     }
 };
 
