@@ -8,8 +8,9 @@ void Try(Ground& ground) {
     if (Load_Reminders(ground.file) != 0) {
         return;
     }
-    for (int tick = 0; tick < 48; ++tick) {
-        ReminderTick().Check([](std::int32_t) {});
+    ReminderTick tick;
+    for (int round = 0; round < 48; ++round) {
+        tick.Check([](std::int32_t) {});
         ground.clock.Advance(1801000);
     }
     for (const ReminderSlot& slot : Global_Reminders) {
