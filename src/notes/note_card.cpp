@@ -67,7 +67,7 @@ void NoteCard::Show_Note(int newRow, int index) {
     const NoteRec& record = Global_Notes[static_cast<std::size_t>(index)];
     Text1->setText(record.Title);
     Text1->setCursorPosition(0);
-    Text2->Show_Text(Box_Text(record.Text));
+    Text2->Show_Text(Text_ForBox(record.Text));
     Label2->setText(u"Created on: "_s + DayToDateString(record.CreatedDay));
     setAccessibleName(record.Title);
 }

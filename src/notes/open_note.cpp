@@ -1,5 +1,6 @@
 #include "notes/open_note.h"
 
+#include "controls/text_fields.h"
 #include "notes/notes_operations.h"
 #include "platform/record_text.h"
 
@@ -27,8 +28,7 @@ OpenEdits& Edits_Of(int index) {
 
 // Lines end with CR LF, unless just that would be too long for the file.
 QString Stored_Text(const QString& boxText) {
-    QString text = boxText;
-    text.replace(u'\n', "\r\n"_L1);
+    const QString text = Text_ForRecord(boxText);
     return Fits_RecString(text) ? text : boxText;
 }
 
@@ -47,18 +47,9 @@ bool Store_OpenNote() {
     if (!Is_Note(open.Index))
         return false;
     const NoteRec& note = Global_Notes[static_cast<std::size_t>(open.Index)];
-    const bool isOtherText = open.Text && *open.Text != Box_Text(note.Text);
+    const bool isOtherText = open.Text && *open.Text != Text_ForBox(note.Text);
     return Store_Note(open.Index, open.Title.value_or(note.Title),
                       isOtherText ? Stored_Text(*open.Text) : note.Text, Read_Moment());
-}
-
-QString Box_Text(const QString& stored) {
-    QString text = stored;
-    text.replace("\r\n"_L1, "\n"_L1);
-    for (const QChar lineEnd :
-         {QChar(u'\r'), QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})
-        text.replace(lineEnd, u'\n');
-    return text;
 }
 
 bool Fits_Note(const QString& boxText) {

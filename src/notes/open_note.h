@@ -12,7 +12,5 @@ void Edit_NoteText(int index, const QString& text);
 // the focus and at the end of the program. False: nothing differed.
 bool Store_OpenNote();
 
-// A note's text as its box shows it: lines end with "\n".
-QString Box_Text(const QString& stored);
 // Whether a note can hold the text of a box.
 bool Fits_Note(const QString& boxText);

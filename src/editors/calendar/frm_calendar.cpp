@@ -3,6 +3,7 @@
 #include "controls/combo_box.h"
 #include "controls/combo_name.h"
 #include "controls/help_topic.h"
+#include "controls/page_parts.h"
 #include "controls/program_end.h"
 #include "controls/the_screen.h"
 #include "controls/wb_button.h"
@@ -43,70 +44,65 @@ frmCalendar::frmCalendar(QWidget* owner) : Form(owner) {
 }
 
 void frmCalendar::Build_Controls() {
-    Combo1 = new ComboBox(this);
-    Combo1->setGeometry(Margin, Margin, MonthWidth, FieldHeight);
-    Name_Combo(Combo1, u"Month"_s);
-    Combo1->setMaxVisibleItems(12);
-    Combo2 = new ComboBox(this);
-    Combo2->setGeometry(Margin + MonthWidth + 4, Margin, YearWidth, FieldHeight);
-    Combo2->setEditable(true);
-    Name_Combo(Combo2, u"Year"_s);
-    Combo2->setInsertPolicy(QComboBox::NoInsert);
-    Combo2->setCompleter(nullptr);
-    DaysLabel = new DayGrid(CalendarRows, this);
-    DaysLabel->move(Margin, GridTop);
+    months = new ComboBox(this);
+    months->setGeometry(Margin, Margin, MonthWidth, FieldHeight);
+    Name_Combo(months, u"Month"_s);
+    months->setMaxVisibleItems(12);
+    years = new ComboBox(this);
+    years->setGeometry(Margin + MonthWidth + 4, Margin, YearWidth, FieldHeight);
+    years->setEditable(true);
+    Name_Combo(years, u"Year"_s);
+    years->setInsertPolicy(QComboBox::NoInsert);
+    years->setCompleter(nullptr);
+    days = new DayGrid(CalendarRows, this);
+    days->move(Margin, GridTop);
     for (int i = 0; i < CalendarColumns; ++i) {
         QLabel* label =
             Add_Label(Weekday_Name(i).left(2), Margin + i * DayGrid::ColumnPitch, LabelsTop);
         label->setFixedWidth(DayGrid::ColumnPitch);
         label->setAlignment(Qt::AlignHCenter);
     }
-    wbButton1 = new wbButton(this);
-    const int buttonTop = GridTop + DaysLabel->height() + 6;
-    wbButton1->setGeometry(Margin, buttonTop, DaysLabel->width(), ButtonHeight);
-    wbButton1->Set_Caption(u"Ok"_s);
+    const int buttonTop = GridTop + days->height() + 6;
+    const wbButton* ok =
+        Add_Button(this, u"Ok"_s, {Margin, buttonTop, days->width(), ButtonHeight});
     const QLabel* hint = Add_Label(help_page::Hint, Margin, buttonTop + ButtonHeight + 4);
-    setFixedSize(DaysLabel->width() + 2 * Margin, hint->geometry().bottom() + 4);
+    setFixedSize(days->width() + 2 * Margin, hint->geometry().bottom() + 4);
 
-    connect(Combo1, &QComboBox::activated, this, &frmCalendar::Combo_Changed);
-    connect(Combo2, &QComboBox::activated, this, &frmCalendar::Combo_Changed);
-    connect(Combo2->lineEdit(), &QLineEdit::returnPressed, this, &frmCalendar::Combo_Changed);
-    connect(DaysLabel, &DayGrid::Confirmed, this, &frmCalendar::wbButton1_Click);
-    connect(wbButton1, &wbButton::Click, this, &frmCalendar::wbButton1_Click);
+    connect(months, &QComboBox::activated, this, &frmCalendar::Combo_Changed);
+    connect(years, &QComboBox::activated, this, &frmCalendar::Combo_Changed);
+    connect(years->lineEdit(), &QLineEdit::returnPressed, this, &frmCalendar::Combo_Changed);
+    connect(days, &DayGrid::Confirmed, this, &frmCalendar::Ok_Click);
+    connect(ok, &wbButton::Click, this, &frmCalendar::Ok_Click);
 }
 
 void frmCalendar::Fill_Boxes() {
     for (int month = 1; month <= 12; ++month)
-        Combo1->addItem(Global_MonthNames[static_cast<std::size_t>(month)]);
-    Combo2->addItems(Offered_Years(Read_Moment().Year));
+        months->addItem(Global_MonthNames[static_cast<std::size_t>(month)]);
+    years->addItems(Offered_Years(Read_Moment().Year));
 }
 
 void frmCalendar::UpdateCalendar(int Month, int Year) {
     if (!Is_CalendarMonth(Month, Year))
         return;
-    CurrentMonth = Month;
-    CurrentYear = Year;
-    Combo1->setCurrentIndex(Month - 1);
-    Combo2->setCurrentIndex(Combo2->findText(QString::number(Year)));
-    Combo2->setEditText(QString::number(Year));
+    shownMonth = Month;
+    shownYear = Year;
+    months->setCurrentIndex(Month - 1);
+    years->setCurrentIndex(years->findText(QString::number(Year)));
+    years->setEditText(QString::number(Year));
     const int first = First_DayCell(Month, Year);
-    DaysLabel->Set_Days(first, Days_OfMonth(Month, Year), [&](int day) {
+    days->Set_Days(first, Days_OfMonth(Month, Year), [&](int day) {
         const int weekday = (first + day - 1) % CalendarColumns;
         return u"%1, %2 %3 %4"_s.arg(Weekday_Name(weekday))
             .arg(day)
-            .arg(Combo1->currentText())
+            .arg(months->currentText())
             .arg(Year);
     });
-}
-
-void frmCalendar::DaysLabel_Click(int Index) {
-    DaysLabel->Select(Index);
 }
 
 void frmCalendar::Show_Date(int DayOfMonth, int Month, int Year) {
     if (Is_CalendarMonth(Month, Year)) {
         UpdateCalendar(Month, Year);
-        DaysLabel_Click(DaysLabel->Cell_Of(DayOfMonth));
+        days->Select(days->Cell_Of(DayOfMonth));
         return;
     }
     const Moment now = Read_Moment();
@@ -139,22 +135,22 @@ void frmCalendar::Present_At(const QPoint& place, const QWidget& field) {
 void frmCalendar::showEvent(QShowEvent* event) {
     platform::Windows::Get().Leave_TaskBar(winId());
     Form::showEvent(event);
-    DaysLabel->Focus_Day();
+    days->Focus_Day();
 }
 
 void frmCalendar::Combo_Changed() {
-    const int year = Typed_Year(Combo2->currentText());
-    if (Combo1->currentIndex() >= 0 && Is_TakenYear(year, CurrentYear))
-        UpdateCalendar(Combo1->currentIndex() + 1, year);
+    const int year = Typed_Year(years->currentText());
+    if (months->currentIndex() >= 0 && Is_TakenYear(year, shownYear))
+        UpdateCalendar(months->currentIndex() + 1, year);
 }
 
-void frmCalendar::wbButton1_Click() {
-    if (DaysLabel->Selected() == -1) {
+void frmCalendar::Ok_Click() {
+    if (days->Selected() == -1) {
         platform::Dialogs::Get().Message(u"Please select a day"_s, platform::BoxStyle::Exclamation);
         return;
     }
     const QString text =
-        FormatUserDate(DaysLabel->Day_Of(DaysLabel->Selected()), CurrentMonth, CurrentYear, false);
+        FormatUserDate(days->Day_Of(days->Selected()), shownMonth, shownYear, false);
     const QPointer<frmCalendar> alive(this);
     if (!Program_Is_Ending())
         Q_EMIT DateSelected(text);

@@ -9,7 +9,6 @@
 
 class DayGrid;
 class QComboBox;
-class wbButton;
 
 class frmCalendar : public Form {
     Q_OBJECT
@@ -20,8 +19,6 @@ public:
     // Fills the grid; Month 1..12, Year 2000..2099 (anything else: nothing changes). Takes the
     // selection off.
     void UpdateCalendar(int Month, int Year);
-    // Selects a cell, 0..41; a hidden one: nothing.
-    void DaysLabel_Click(int Index);
     // Shows a date, its day selected; day 0: the month alone.
     void Show_Date(int DayOfMonth, int Month, int Year);
     // The date of a text in the user's format, or the present month when it is none.
@@ -42,12 +39,11 @@ private:
     void Build_Controls();
     void Fill_Boxes();
     void Combo_Changed();
-    void wbButton1_Click();
+    void Ok_Click();
 
-    QComboBox* Combo1 = nullptr;
-    QComboBox* Combo2 = nullptr;
-    DayGrid* DaysLabel = nullptr;
-    wbButton* wbButton1 = nullptr;
-    std::int32_t CurrentYear = 0;
-    std::int32_t CurrentMonth = 0;
+    QComboBox* months = nullptr;
+    QComboBox* years = nullptr;
+    DayGrid* days = nullptr;
+    std::int32_t shownYear = 0;
+    std::int32_t shownMonth = 0;
 };

@@ -4,7 +4,7 @@
 #include "editors/calendar/day_grid.h"
 #include "editors/calendar/frm_calendar.h"
 #include "support/fake_system.h"
-#include "support/spoken_name.h"
+#include "support/form_driver.h"
 
 #include <QComboBox>
 #include <QPointer>
@@ -50,7 +50,7 @@ protected:
         box->setEditText(year);
         QTest::keyClick(box, Qt::Key_Return);
     }
-    void Press_Ok() { QTest::mouseClick(calendar->findChild<wbButton*>(), Qt::LeftButton); }
+    void Press_Ok() { Click_On<wbButton>(u"Ok"_s, calendar); }
 
     FakeSystem system;
     QPointer<frmCalendar> calendar;

@@ -45,11 +45,7 @@ TEST_F(ListWindow, A_reminder_of_every_kind_goes_through_the_pages_unchanged) {
     weeks.rs_ReWeeks = 3;
     weeks.rs_ActivationDay = Monday + 30;
     Add_Kind(u"days"_s, DateType::EveryXDays).rs_ReDays = 5;
-    ReminderClass& exact = Add_Kind(u"exact"_s, DateType::ExactDate);
-    exact.rs_SRDay = 4;
-    exact.rs_SRMonth = 3;
-    exact.rs_SRYear = 2026;
-    exact.rs_SRLongday = Monday + 2;
+    Add_Kind(u"exact"_s, DateType::ExactDate).Set_ExactDate({4, 3, 2026}, Monday + 2);
     ReminderClass& month = Add_Kind(u"month"_s, DateType::DayOfMonth);
     month.rs_REDayOfMonth = 21;
     month.rs_Reminder_Type = ReminderType::Centered;
