@@ -2,6 +2,7 @@
 
 #include "controls/icons.h"
 #include "controls/metrics.h"
+#include "controls/page_parts.h"
 #include "controls/program_end.h"
 #include "controls/the_screen.h"
 #include "controls/unload_queue.h"
@@ -10,7 +11,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPointer>
 
 #include <algorithm>
@@ -45,18 +45,7 @@ void Form::Set_BackColor(ColorValue color) {
 }
 
 QLabel* Form::Add_Label(const QString& text, int left, int top, int width, QWidget* parent) {
-    auto* label = new QLabel(text, parent == nullptr ? this : parent);
-    label->setFont(Small_Font());
-    label->setTextFormat(Qt::PlainText);
-    label->move(left, top);
-    if (width > 0) {
-        label->setWordWrap(true);
-        label->setFixedWidth(width);
-        label->resize(width, label->heightForWidth(width));
-    } else {
-        label->adjustSize();
-    }
-    return label;
+    return Add_Text(parent == nullptr ? this : parent, text, left, top, TextLook::Plain, width);
 }
 
 // Window managers that look for free room put a window half off the screen for it.

@@ -6,6 +6,7 @@
 #include "controls/cool_tab.h"
 #include "controls/field_word.h"
 #include "controls/help_topic.h"
+#include "controls/icons.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
 #include "controls/text_fields.h"

@@ -5,7 +5,6 @@
 #pragma once
 
 #include "controls/form.h"
-#include "controls/icons.h"
 #include "editors/list/refused_save.h"
 #include "editors/pages/reminder_page.h"
 

@@ -269,6 +269,8 @@ TEST_F(ListWindow, A_condition_added_after_a_refused_save_outlives_the_end) {
     Type(u"Row 1: at"_s, u"bad"_s);
     dialogs.Expect_Message(u"Invalid time: \r\nbad"_s);
     EXPECT_FALSE(window.Save_View_To_Reminder(CategoryOnSave::Take));
+    EXPECT_EQ(Page(), u"Hours Setup"_s);
+    EXPECT_TRUE(Named<QLineEdit>(u"Row 1: at"_s)->hasFocus());
     Press(u"Add to list: At"_s);
     EXPECT_FALSE(Store_OpenPage());
     ASSERT_EQ(Reminder(0).HourSetupList_Size(), 1);

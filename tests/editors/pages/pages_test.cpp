@@ -107,7 +107,7 @@ TEST_F(Pages, The_next_run_follows_every_click_and_the_record_only_the_save) {
     EXPECT_EQ(nextRun, Today);
     Click(u"Each: Wednesday"_s);
     EXPECT_EQ(nextRun, Today + 2);
-    Named<QLabel>(u"Next run on: 03/04/2026"_s);
+    EXPECT_TRUE(Named<QLabel>(u"Next run on: 03/04/2026"_s)->isVisible());
     QTest::keyClick(Named<ChkBox>(u"Each: Wednesday"_s), Qt::Key_Space);
     Click(u"Exact date: On:"_s);
     Type(u"Exact date"_s, u"03/20/2026"_s);
@@ -136,7 +136,8 @@ TEST_F(Pages, A_start_date_beside_an_exact_date_is_refused_with_a_beep) {
     EXPECT_EQ(system.desktop.beeps, 1);
     EXPECT_FALSE(Named<ChkBox>(u"Start: Tomorrow"_s)->Is_Ticked());
     EXPECT_TRUE(Named<ChkBox>(u"Start: Always active"_s)->Is_Ticked());
-    Named<QLabel>(u"You can't use a start date with an Exact date reminder."_s);
+    EXPECT_TRUE(
+        Named<QLabel>(u"You can't use a start date with an Exact date reminder."_s)->isVisible());
     Press(u"Set start date"_s);
     EXPECT_EQ(system.desktop.beeps, 2);
     EXPECT_EQ(Popup(u"Calendar"_s), nullptr);
