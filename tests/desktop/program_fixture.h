@@ -15,6 +15,10 @@ class Program : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(desktop.Is_Up() && folder.isValid());
+        Lay_Out();
+    }
+    // Settings of a program that was started before.
+    void Lay_Out() const {
         Write_File(Home() + "/HKEY_CURRENT_USER.reg"_L1, "REGEDIT4\r\n\r\n"
                                                          "[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
                                                          "\"First Time\"=dword:00000000\r\n");

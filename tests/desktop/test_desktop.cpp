@@ -209,12 +209,13 @@ void Tockly::Set_Environment(const QString& name, const QString& value) {
 void Tockly::Start(const QStringList& through) {
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    // Another build of it can be named.
-    const QStringList command =
-        through +
-        QStringList{qEnvironmentVariable("TOCKLY_PROGRAM", QStringLiteral(TOCKLY_EXECUTABLE))};
+    const QStringList command = through + QStringList{Path()};
     process.start(command.first(), command.mid(1));
     process.waitForStarted();
+}
+
+QString Tockly::Path() {
+    return qEnvironmentVariable("TOCKLY_PROGRAM", QStringLiteral(TOCKLY_EXECUTABLE));
 }
 
 void Tockly::Signal(int number) {

@@ -62,6 +62,8 @@ public:
     explicit Tockly(const TestDesktop& desktop, const QString& home);
     ~Tockly();
 
+    // Another build of it can be named.
+    static QString Path();
     void Set_Environment(const QString& name, const QString& value);
     // Runs the program through another one: {"setpriv", ...}.
     void Start(const QStringList& through = {});
