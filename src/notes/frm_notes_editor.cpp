@@ -40,7 +40,6 @@ constexpr int StatusTip = 60;
 constexpr int TipSize = 16; // pixels, of the help pictures
 
 OneWindow<frmNotesEditor> notesEditor;
-int lastCategory = 0; // where the window was closed
 
 QLabel* Make_Bold(QLabel* label) {
     QFont bold = label->font();
@@ -71,7 +70,7 @@ frmNotesEditor::frmNotesEditor() {
     move(screen.left() + (screen.width() - width()) / 2,
          screen.top() + (screen.height() - height()) / 2);
     Lay_Out();
-    const int category = Is_NoteCategory(lastCategory) ? lastCategory : 0;
+    const int category = Is_NoteCategory(Global_LastNoteCategory) ? Global_LastNoteCategory : 0;
     Select_Category(Is_NoteCategory(category) ? category : NoCategory);
 }
 
@@ -194,7 +193,7 @@ void frmNotesEditor::Leave_Column(bool forward) {
 
 void frmNotesEditor::On_Unload() {
     Store_OpenNote();
-    lastCategory = selectedCategory;
+    Global_LastNoteCategory = selectedCategory;
 }
 
 void Show_NotesEditor() {

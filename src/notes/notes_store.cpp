@@ -1,6 +1,7 @@
 #include "notes/notes_store.h"
 
 #include "core/record_stream.h"
+#include "notes/open_note.h"
 #include "platform/files.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 std::array<QString, NoteCategoryCount> Global_NoteCategories;
 std::vector<NoteRec> Global_Notes;
+int Global_LastNoteCategory = 0;
 
 namespace {
 
@@ -110,7 +112,9 @@ void Close_Gaps() {
 void Init_Notes() {
     Global_NoteCategories = {};
     Global_Notes.assign(FirstSlots, NoteRec());
+    Global_LastNoteCategory = 0;
     File_OfNotes = {};
+    Forget_OpenNote();
 }
 
 int Load_Notes_File(const QString& fileName) {

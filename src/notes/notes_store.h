@@ -28,6 +28,7 @@ inline constexpr int NoteCategoryCount = 18;
 // Empty: a free place. The names stand without gaps from the first on.
 extern std::array<QString, NoteCategoryCount> Global_NoteCategories;
 extern std::vector<NoteRec> Global_Notes; // 0..50 at first, grown by 50
+extern int Global_LastNoteCategory;       // where the window was closed in this run
 
 // Results of Load_Notes_File beside 0.
 inline constexpr int NotesWrongHeader = -1;
@@ -35,7 +36,7 @@ inline constexpr int NotesUnknownVersion = -2;
 inline constexpr int NotesNotReadable = 53; // no such file, or not to be read
 inline constexpr int NotesDamaged = 62;     // ends too early, or a count makes no sense
 
-// Both tables, all free.
+// Both tables, all free; no edits are open.
 void Init_Notes();
 // Reads both tables; on a failure they stay as they are. The bytes of a damaged file are kept aside
 // before a later save replaces them.

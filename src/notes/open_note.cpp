@@ -52,6 +52,10 @@ bool Store_OpenNote() {
                       isOtherText ? Stored_Text(*open.Text) : note.Text, Read_Moment());
 }
 
+void Forget_OpenNote() {
+    edits = {};
+}
+
 bool Fits_Note(const QString& boxText) {
     // No character needs more than three bytes; the mark of the long form takes three more.
     const bool isShort = static_cast<std::size_t>(boxText.size()) * 3 + 3 <= MaxRecStringBytes;

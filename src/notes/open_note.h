@@ -11,6 +11,8 @@ void Edit_NoteText(int index, const QString& text);
 // Stores the open edits where they differ from the note. For every button and menu, at the loss of
 // the focus and at the end of the program. False: nothing differed.
 bool Store_OpenNote();
+// Nothing is open any more.
+void Forget_OpenNote();
 
 // Whether a note can hold the text of a box.
 bool Fits_Note(const QString& boxText);

@@ -35,11 +35,6 @@ protected:
         column = form->findChild<CardColumn*>();
         list = form->findChild<CategoryList*>();
     }
-    // An earlier case may have closed the window on another category.
-    void Open_First() {
-        Open();
-        form->Select_Category(0);
-    }
     NoteTitleBox* Title(int note) {
         return qobject_cast<NoteTitleBox*>(column->Card_Of(note)->Field(0));
     }
@@ -82,7 +77,7 @@ protected:
 };
 
 TEST_F(NotesEditor, What_is_typed_is_stored_with_its_time_when_the_box_is_left) {
-    Open_First();
+    Open();
     EXPECT_EQ(Rows(), u"Work Stuff (2), Another Category (1)"_s);
     EXPECT_EQ(Status(), u"Last Modified:|At: |"_s);
     Note(1).Text = u"un\u00A0changed\nline"_s;
@@ -109,7 +104,7 @@ TEST_F(NotesEditor, What_is_typed_is_stored_with_its_time_when_the_box_is_left) 
 }
 
 TEST_F(NotesEditor, A_new_note_is_ready_for_typing_and_a_deleted_one_is_gone) {
-    Open_First();
+    Open();
     Click(u"Click to add a new note"_s);
     ASSERT_EQ(column->Selected_Note(), 3);
     EXPECT_EQ(Note(3).CreatedDay, 9558);
@@ -139,7 +134,7 @@ TEST_F(NotesEditor, A_new_note_is_ready_for_typing_and_a_deleted_one_is_gone) {
 }
 
 TEST_F(NotesEditor, Categories_are_added_renamed_and_deleted) {
-    Open_First();
+    Open();
     const QString add = u"Click to add a new category"_s;
     const QString prompt = u"Insert the new category name:"_s;
     for (const auto& answer : {std::optional<QString>(), std::optional(u""_s),
@@ -182,7 +177,7 @@ TEST_F(NotesEditor, Categories_are_added_renamed_and_deleted) {
 }
 
 TEST_F(NotesEditor, A_note_moves_and_the_end_under_an_open_menu_does_no_harm) {
-    Open_First();
+    Open();
     QTest::mouseClick(Title(0), Qt::LeftButton);
     QTest::keyClick(Title(0), Qt::Key_Home);
     QTest::keyClicks(Title(0), u"My "_s);
@@ -212,7 +207,7 @@ TEST_F(NotesEditor, The_window_opens_where_it_was_closed) {
 }
 
 TEST_F(NotesEditor, A_text_stops_at_what_the_file_can_hold_and_nothing_is_cut) {
-    Open_First();
+    Open();
     const auto Paste = [this](QWidget* box, const QString& text) {
         QApplication::clipboard()->setText(text);
         box->setFocus();
@@ -240,7 +235,7 @@ TEST_F(NotesEditor, Thousands_of_notes_need_a_handful_of_cards) {
     for (int note = 3; note < 5000; ++note)
         Note(note) = {true, QString::number(note), u"line\r\n"_s.repeated(note % 20), 9000, 0, 0,
                       0};
-    Open_First();
+    Open();
     const auto Cards = [this] { return form->findChildren<NoteCard*>().size(); };
     QTest::mouseClick(Title(0), Qt::LeftButton);
     QTest::keyClicks(Title(0), u"kept"_s);

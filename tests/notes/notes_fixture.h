@@ -20,7 +20,6 @@ protected:
         Global_DateFormat = QStringLiteral("dd/mm/yyyy");
         Init_Notes();
     }
-    ~NotesTest() override { Store_OpenNote(); }
     QString File(const QString& name) const { return folder.path() + u'/' + name; }
     std::string Bytes(const QString& name) {
         return system.files.Read(File(name)).value_or("no such file");
