@@ -84,7 +84,7 @@ void Tick(benchmark::State& state, std::int64_t size) {
     std::int64_t delivered = 0;
     for (auto _ : state) {
         wallClock->Advance(60'000);
-        tick.Check([&delivered](std::int32_t) { ++delivered; });
+        tick.Check([&delivered](const ReminderRef&) { ++delivered; });
     }
     benchmark::DoNotOptimize(delivered);
     Global_Reminders.swap(samples[size].reminders);
@@ -98,7 +98,7 @@ void New_Day(benchmark::State& state, std::int64_t size) {
         state.PauseTiming();
         wallClock->Advance(86400000);
         state.ResumeTiming();
-        tick.Check([](std::int32_t) {});
+        tick.Check([](const ReminderRef&) {});
     }
     Global_Reminders.swap(samples[size].reminders);
 }

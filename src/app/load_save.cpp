@@ -13,7 +13,6 @@
 #include "core/reminder_store.h"
 #include "core/time_routines.h"
 #include "delivery/deliver.h"
-#include "delivery/message_menu.h"
 #include "delivery/message_queue.h"
 #include "delivery/missed_reminders.h"
 #include "delivery/options_menu.h"
@@ -76,11 +75,7 @@ void Application::Create_Windows() {
     programFolder = platform::Paths::Get().Program_Folder();
     commands.Connect(ToolbarCommand::Unload, [this] { Unload(); });
     Connect_Timers();
-    mainForm =
-        std::make_unique<MainForm>(commands, MessageActions{Message_Ok, Message_DisableForToday,
-                                                            Message_Disable, Message_RemindAgain});
-    mainForm->Container().Serve_Windows(
-        {Window_DisableForToday, Window_Disable, Window_RemindAgain});
+    mainForm = std::make_unique<MainForm>(commands);
     mainForm->Connect_Hiding({Clear_AppMessage, LinksMenu_Visible});
     Global_OptionsMenu = &mainForm->Container();
     Global_Toolbar = mainForm.get();
@@ -95,6 +90,7 @@ void Application::Init_GlobalArrays() {
     Init_Notes();
     Init_TimeRoutines();
     Init_DateText();
+    Init_RA_Reminders();
     Init_MessageWinRoutines();
     Load_RA_Options(programFolder + "/runagain.txt"_L1);
     Compute_IsWinXP();

@@ -1,6 +1,7 @@
 #include "app/reminder_watch.h"
 
 #include "core/remind_again.h"
+#include "core/reminder_ref.h"
 #include "platform/clock.h"
 
 #include <utility>
@@ -37,9 +38,9 @@ void ReminderWatch::Check_Reminders() {
         ports.Look_Back(*last, now);
     }
     last = now;
-    tick.Check([&](std::int32_t index) {
+    tick.Check([&](const ReminderRef& due) {
         changes = true;
-        ports.Deliver(index);
+        ports.Deliver(due);
     });
     if (changes) {
         ports.Note_Change();

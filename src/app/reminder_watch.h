@@ -15,7 +15,7 @@
 class ReminderWatch {
 public:
     struct Ports {
-        std::function<void(std::int32_t index)> Deliver;
+        std::function<void(const ReminderRef& due)> Deliver;
         // Hours may have gone by between two checks.
         std::function<void(const Moment& before, const Moment& now)> Look_Back;
         // Something of the tables is other than before.

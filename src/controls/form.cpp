@@ -51,10 +51,10 @@ QLabel* Form::Add_Label(const QString& text, int left, int top, int width, QWidg
 // Window managers that look for free room put a window half off the screen for it.
 void Form::Centre_OnScreen() {
     const QRect screen = The_Screen();
-    const int room = screen.height() - height();
-    move(screen.left() + std::max((screen.width() - width()) / 2, 0),
-         screen.top() +
-             std::max(room / 2 - TitleBarRoom, std::min(ToolbarRoom, std::max(room, 0))));
+    const int below = std::clamp(screen.height() - height(), 0, ToolbarRoom);
+    const QPoint middle = Centered_In(screen, size());
+    move(std::max(middle.x(), screen.left()),
+         std::max(middle.y() - TitleBarRoom, screen.top() + below));
 }
 
 void Form::Present() {

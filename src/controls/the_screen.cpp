@@ -27,6 +27,11 @@ QRect Moved_Into(const QRect& screen, QRect area) {
     return area;
 }
 
+QPoint Centered_In(const QRect& screen, const QSize& window) {
+    return screen.topLeft() +
+           QPoint((screen.width() - window.width()) / 2, (screen.height() - window.height()) / 2);
+}
+
 QRect Moved_Clear(const QRect& screen, const QRect& area, const QRect& field) {
     constexpr int gap = 4;
     const QRect wanted = Moved_Into(screen, area);

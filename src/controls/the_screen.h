@@ -12,6 +12,8 @@ bool Is_OnScreens(const std::vector<QRect>& screens, const QRect& area);
 // The area, moved as little as it takes to lie inside; one that is too large is flush at the left
 // or the top.
 QRect Moved_Into(const QRect& screen, QRect area);
+// Where a window of this size stands in the middle.
+QPoint Centered_In(const QRect& screen, const QSize& window);
 
 // The same for a window beside a field that is to stay in sight: where the area would cover it, it
 // stands below, above, right or left of the field, wherever there is room first.

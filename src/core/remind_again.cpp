@@ -2,7 +2,7 @@
 
 #include "core/date_text.h"
 #include "core/record_stream.h"
-#include "core/reminder_store.h"
+#include "core/reminder_ref.h"
 #include "core/reminder_tick.h"
 #include "platform/files.h"
 
@@ -183,7 +183,7 @@ bool RA_Is_Due(const Moment& now) {
     });
 }
 
-void Check_RA_Reminders(const std::function<void(std::int32_t)>& deliver) {
+void Check_RA_Reminders(const std::function<void(const ReminderRef&)>& deliver) {
     const std::int32_t bound = Global_RA_Last;
     Moment now = Read_Moment();
     // An entry that moves to the place of a removed one waits for the next pass.
@@ -197,7 +197,7 @@ void Check_RA_Reminders(const std::function<void(std::int32_t)>& deliver) {
         if (due == RA_Due::Drop)
             continue;
         if (const std::int32_t slot = Find_ReminderIndex(entry.ID, entry.ID2); slot != -1) {
-            deliver(slot);
+            deliver(ReminderRef::Of_Slot(slot));
             now = Read_Moment();
         }
     }

@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+class ReminderRef;
+
 struct RA_Entry {
     ::Day Day = 0;
     std::int32_t Minute = 0; // Minute of that day
@@ -53,9 +55,8 @@ enum class RA_Due { NotYet, Deliver, Drop };
 RA_Due RA_Check(const RA_Entry& entry, const Moment& now);
 // A pass would take an entry out of the queue now.
 bool RA_Is_Due(const Moment& now);
-// One pass over the queue. deliver gets the slot of Global_Reminders; entries of deleted reminders
-// go silently.
-void Check_RA_Reminders(const std::function<void(std::int32_t index)>& deliver);
+// One pass over the queue. Entries of deleted reminders go silently.
+void Check_RA_Reminders(const std::function<void(const ReminderRef& due)>& deliver);
 
 // "rareminders.dat". False: nothing was loaded, and the queue is as it was.
 bool Load_RA_Reminders(const QString& fileName);

@@ -1,6 +1,6 @@
 #include "core/reminder_tick.h"
 
-#include "core/reminder_store.h"
+#include "core/reminder_ref.h"
 
 #include <algorithm>
 #include <limits>
@@ -28,7 +28,7 @@ void ReminderTick::Follow_Clock(MinuteCount now) {
     last = now;
 }
 
-void ReminderTick::Check(const std::function<void(std::int32_t)>& deliver) {
+void ReminderTick::Check(const std::function<void(const ReminderRef&)>& deliver) {
     Moment now = Read_Moment();
     MinuteCount count = now.Count();
     Follow_Clock(count);
@@ -47,7 +47,7 @@ void ReminderTick::Check(const std::function<void(std::int32_t)>& deliver) {
         due = std::min(due, slot.Reminder.Quiet_Until());
         if (!fires)
             continue;
-        deliver(static_cast<std::int32_t>(index));
+        deliver(ReminderRef::Of_Slot(static_cast<std::int32_t>(index)));
         // A delivery may have handled events for a while, even over midnight.
         now = Read_Moment();
         count = now.Count();

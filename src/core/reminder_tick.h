@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <functional>
 
+class ReminderRef;
+
 class ReminderTick {
 public:
     // onChange hears of the first change after a check that made its answer void; the change itself
@@ -16,9 +18,9 @@ public:
     ReminderTick& operator=(const ReminderTick&) = delete;
 
     // Asks each used reminder that is not pending, in slot order, whether it fires now, and
-    // delivers it at once, before the next is asked. deliver gets the slot and may add, delete and
-    // edit reminders; slots that it adds are asked at the next check.
-    void Check(const std::function<void(std::int32_t index)>& deliver);
+    // delivers it at once, before the next is asked. deliver may add, delete and edit reminders;
+    // slots that it adds are asked at the next check.
+    void Check(const std::function<void(const ReminderRef& due)>& deliver);
     // No check before this minute would deliver anything, unless something changes or the clock
     // goes back. 0: the next one may.
     MinuteCount Quiet_Until() const { return changed ? 0 : quietUntil; }

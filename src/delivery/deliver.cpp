@@ -1,10 +1,8 @@
 #include "delivery/deliver.h"
 
-#include "core/remind_again.h"
-#include "core/reminder_store.h"
+#include "delivery/centered_windows.h"
 #include "delivery/message_queue.h"
-#include "delivery/near_placement.h"
-#include "delivery/show_windows.h"
+#include "delivery/near_windows.h"
 #include "platform/desktop.h"
 
 namespace {
@@ -25,29 +23,24 @@ std::unique_ptr<MCIClass> Global_PlayerClass;
 
 void Init_MessageWinRoutines() {
     Init_ToolbarMessages();
-    Init_RA_Reminders();
-    Init_ReminderWindows();
+    Init_NearWindows();
+    Init_CenterWindows();
 }
 
-void Deliver_Reminder(std::int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= Global_Reminders.size())
+void Deliver_Reminder(const ReminderRef& due) {
+    const ReminderClass* reminder = due.Peek();
+    if (reminder == nullptr)
         return;
-    const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
-    if (!slot.Used || slot.Reminder == nullptr)
-        return;
-    Settle_IdPair(index);
-    const ReminderClass& reminder = slot.Reminder.Peek();
-    Play_Sound(reminder);
-    switch (reminder.rs_Reminder_Type) {
+    Play_Sound(*reminder);
+    switch (reminder->rs_Reminder_Type) {
     case ReminderType::InsideToolbar:
-        Show_ToolbarMessage(index);
+        Show_ToolbarMessage(due);
         break;
     case ReminderType::NextToToolbar:
-        Show_NextToToolbar(index);
+        Show_NextToToolbar(due);
         break;
     case ReminderType::Centered:
-        Show_Centered(index, reminder.rs_Minimize_Apps ? OtherApplications::Minimize
-                                                       : OtherApplications::Leave);
+        Show_Centered(due);
         break;
     }
 }

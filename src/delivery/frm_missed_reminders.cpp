@@ -6,7 +6,6 @@
 #include "controls/palette.h"
 #include "controls/program_end.h"
 #include "controls/the_screen.h"
-#include "core/reminder_store.h"
 #include "delivery/deliver.h"
 #include "platform/shown_text.h"
 
@@ -106,9 +105,7 @@ void frmMissedReminders::Place_Window() {
 void frmMissedReminders::Deliver_Row(int row) {
     if (row < 0 || static_cast<std::size_t>(row) >= entries.size() || Program_Is_Ending())
         return;
-    const MissedEntry& entry = entries[static_cast<std::size_t>(row)];
-    if (const std::int32_t index = Find_ReminderIndex(entry.ID, entry.ID2); index != -1)
-        Deliver_Reminder(index);
+    Deliver_Reminder(entries[static_cast<std::size_t>(row)].Reminder);
 }
 
 void frmMissedReminders::resizeEvent(QResizeEvent*) {

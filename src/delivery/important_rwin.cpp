@@ -7,8 +7,6 @@
 #include "controls/the_screen.h"
 #include "controls/transparency.h"
 #include "controls/unload_queue.h"
-#include "core/reminder_store.h"
-#include "delivery/near_placement.h"
 #include "delivery/options_menu.h"
 #include "delivery/rwin_layout.h"
 #include "platform/dialogs.h"
@@ -17,32 +15,25 @@
 #include "settings/global_settings.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Nothing for a number that is no entry of the table.
-template <class Entry>
-Entry* Entry_At(std::vector<Entry>& table, std::int32_t index) {
-    const bool isInside = index >= 0 && static_cast<std::size_t>(index) < table.size();
-    return isInside ? &table[static_cast<std::size_t>(index)] : nullptr;
-}
-
-} // namespace
 
 OptionsMenu* Global_OptionsMenu = nullptr;
 
 frmImportantRWin::~frmImportantRWin() {
     Free_Entry();
+    for (const std::size_t slot : PendingList)
+        table.Free(slot);
 }
 
-void frmImportantRWin::AddReminder(std::int32_t slot) {
+void frmImportantRWin::AddReminder(std::size_t slot) {
     PendingList.push_back(slot);
     Mark_Pending();
 }
@@ -62,6 +53,16 @@ void frmImportantRWin::Show_Window() {
     comesUp = true;
     shownAt = pos();
     Tell_ScreenReader();
+}
+
+void frmImportantRWin::Raise_Soon() {
+    if (std::exchange(raiseAsked, true))
+        return;
+    QTimer::singleShot(0, this, [this] {
+        raiseAsked = false;
+        if (!closed)
+            platform::Windows::Get().Raise(winId(), platform::RaiseOver::All);
+    });
 }
 
 // Some window managers put a window that came without the focus behind the one that has it, and
@@ -94,16 +95,13 @@ void frmImportantRWin::wbButton1_Click(int index) {
 void frmImportantRWin::wbButton2_Click() {
     if (closed || Program_Is_Ending())
         return;
-    const std::int32_t index = Find_ReminderIndex(ThisReminderID, ThisCategoryID);
-    if (index == -1) {
+    if (reminderOnView.Slot() == -1) {
         platform::Dialogs::Get().Message(u"The reminder shown in this window as deleted."_s,
                                          platform::BoxStyle::Exclamation);
         return;
     }
-    if (Global_OptionsMenu == nullptr)
-        return;
     const QPoint below = wbButton2->mapToGlobal(QPoint(0, wbButton2->height()));
-    Global_OptionsMenu->Open_For_Window(*this, index, {below.x(), below.y()});
+    Global_OptionsMenu->Open_For_Window(*this, {below.x(), below.y()});
 }
 
 void frmImportantRWin::wbButton3_Click() {
@@ -116,7 +114,7 @@ void frmImportantRWin::wbButton3_Click() {
     }
     bool found = false;
     while (!found && !PendingList.empty()) {
-        const std::int32_t slot = PendingList.front();
+        const std::size_t slot = PendingList.front();
         PendingList.pop_front();
         Free_Entry();
         found = Take_Entry(slot);
@@ -127,44 +125,29 @@ void frmImportantRWin::wbButton3_Click() {
         Tell_ScreenReader();
 }
 
-bool frmImportantRWin::Take_Entry(std::int32_t slot) {
-    ListIndex = slot;
-    std::int32_t reminderIndex = -1;
-    if (IsCenteredWindow) {
-        if (const CenterWindowEntry* entry = Entry_At(Global_CenterWindows, slot))
-            reminderIndex = Find_ReminderIndex(entry->ID, entry->ID2);
-    } else if (NearWindowEntry* entry = Entry_At(Global_NearWindows, slot)) {
-        entry->Waiting = PendingCount();
-        entry->IsQueued = false;
-        reminderIndex = Find_ReminderIndex(entry->ID, entry->ID2);
-    }
-    if (reminderIndex == -1)
+bool frmImportantRWin::Take_Entry(std::size_t slot) {
+    slotOnView = slot;
+    const ReminderRef reminder = table.Come_OnView(slot, PendingCount());
+    if (reminder.Slot() == -1)
         return false;
     const int formerBottom = y() + height();
-    UpdateWindow(reminderIndex);
+    UpdateWindow(reminder);
     Stay_OnScreen(formerBottom);
     return true;
 }
 
 // The next reminder may have more or fewer buttons.
 void frmImportantRWin::Stay_OnScreen(int formerBottom) {
-    const NearWindowEntry* entry =
-        IsCenteredWindow ? nullptr : Entry_At(Global_NearWindows, ListIndex);
-    const int top = entry != nullptr && entry->AlignBottom ? formerBottom - height() : y();
+    const int top = table.Reaches_Upward(*slotOnView) ? formerBottom - height() : y();
     const QRect screen = Screen_At(geometry().center());
     const int lowest = screen.bottom() + 1 - height();
     move(x(), std::max(std::min(top, lowest), screen.top()));
 }
 
 void frmImportantRWin::Free_Entry() {
-    if (IsCenteredWindow) {
-        if (CenterWindowEntry* entry = Entry_At(Global_CenterWindows, ListIndex))
-            entry->Used = false;
-    } else if (NearWindowEntry* entry = Entry_At(Global_NearWindows, ListIndex)) {
-        entry->Used = false;
-        entry->WorkForm = nullptr;
-    }
-    ListIndex = -1;
+    if (slotOnView)
+        table.Free(*slotOnView);
+    slotOnView.reset();
 }
 
 void frmImportantRWin::Close_Window() {
@@ -186,4 +169,10 @@ void frmImportantRWin::keyPressEvent(QKeyEvent* event) {
 void frmImportantRWin::closeEvent(QCloseEvent* event) {
     event->ignore();
     wbButton3_Click();
+}
+
+void Unload_ReminderWindows() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<frmImportantRWin*>(window) != nullptr)
+            delete window;
 }

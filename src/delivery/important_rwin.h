@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/wb_button.h"
-#include "core/reminder.h"
+#include "delivery/rwin_table.h"
 
 #include <QString>
 #include <QWidget>
@@ -17,26 +17,23 @@ class QPlainTextEdit;
 class frmImportantRWin : public QWidget {
     Q_OBJECT
 public:
-    frmImportantRWin();
-    // Frees the entry of the window, if it still has one.
+    // slot: the entry of the reminder that UpdateWindow brings on view first.
+    frmImportantRWin(RWinTable& table, std::size_t slot);
+    // Frees the entries that it still has.
     ~frmImportantRWin() override;
 
-    // The reminder on view.
-    std::int32_t ThisReminderID = 0;
-    std::int32_t ThisCategoryID = 0; // rs_ID2
-    // The window's entry in the table that IsCenteredWindow says; -1 = none.
-    std::int32_t ListIndex = -1;
-    // The shared window at the centre (Global_CenterWindows), else one beside the toolbar
-    // (Global_NearWindows).
-    bool IsCenteredWindow = false;
-
-    // Fills the window for the reminder of a used slot; its height may change.
-    void UpdateWindow(std::int32_t reminderIndex);
+    // Fills the window for a reminder that is there; its height may change.
+    void UpdateWindow(const ReminderRef& reminder);
+    // The one on view; it may be gone since.
+    const ReminderRef& Shown_Reminder() const { return reminderOnView; }
     // Adds a waiting reminder, by its entry of the window's table.
-    void AddReminder(std::int32_t slot);
+    void AddReminder(std::size_t slot);
     std::int32_t PendingCount() const { return static_cast<std::int32_t>(PendingList.size()); }
     // Above the other windows, without the focus, and out of the task bar. A fade if it is wanted.
     void Show_Window();
+    // Above the other windows, once for all who ask before the event loop goes on: each time takes
+    // a way to the window system and back.
+    void Raise_Soon();
 
     // Opens what action button "index" stands for.
     void wbButton1_Click(int index);
@@ -62,14 +59,17 @@ private:
     void Mark_Pending();
     void Tell_ScreenReader();
     void Free_Entry();
-    bool Take_Entry(std::int32_t slot);
+    bool Take_Entry(std::size_t slot);
     void Close_Window();
     void Come_Up();
 
     std::array<FunctionType, ReminderClass::FunctionCount> ActionKind{};
     std::array<QString, ReminderClass::FunctionCount> ActionTarget;
     std::array<std::uint8_t, ReminderClass::FunctionCount> ActionWindowState{};
-    std::deque<std::int32_t> PendingList; // entries of the table, first added first
+    RWinTable& table;
+    std::optional<std::size_t> slotOnView; // its entry of the table
+    std::deque<std::size_t> PendingList;   // entries of those that wait, first added first
+    ReminderRef reminderOnView;
 
     QPlainTextEdit* Text1 = nullptr;
     std::array<wbButton*, ReminderClass::FunctionCount> wbButton1{};
@@ -78,5 +78,9 @@ private:
     int shapeHeight = 77; // pixels, of the outline
     bool comesUp = false; // with the next painting: now it is not on the screen yet
     QPoint shownAt;       // where it was to stand then
+    bool raiseAsked = false;
     bool closed = false;
 };
+
+// Releases all of them, at the end of the program.
+void Unload_ReminderWindows();

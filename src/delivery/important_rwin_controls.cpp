@@ -3,7 +3,6 @@
 #include "controls/metrics.h"
 #include "controls/painting.h"
 #include "controls/text_fields.h"
-#include "core/reminder_store.h"
 #include "delivery/action_icons.h"
 #include "delivery/important_rwin.h"
 #include "delivery/rwin_layout.h"
@@ -62,7 +61,8 @@ QPlainTextEdit* Make_TextBox(QWidget* parent) {
 
 } // namespace
 
-frmImportantRWin::frmImportantRWin() : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint) {
+frmImportantRWin::frmImportantRWin(RWinTable& owner, std::size_t slot)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), table(owner), slotOnView(slot) {
     setWindowTitle(u"Reminder"_s);
     setAccessibleName(u"Reminder"_s);
     Set_HelpTopic(*this, help_page::Toolbar);
@@ -95,17 +95,10 @@ void frmImportantRWin::Build_Controls() {
     wbButton3->setFocus();
 }
 
-void frmImportantRWin::UpdateWindow(std::int32_t reminderIndex) {
-    if (reminderIndex < 0 || static_cast<std::size_t>(reminderIndex) >= Global_Reminders.size())
-        return;
-    const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(reminderIndex)];
-    if (!slot.Used)
-        return;
-    const ReminderClass& reminder = slot.Reminder.Peek();
-    ThisReminderID = reminder.rs_ID;
-    ThisCategoryID = reminder.rs_ID2;
-    Show_Text(reminder.rs_Text);
-    Lay_Out(Show_Actions(reminder));
+void frmImportantRWin::UpdateWindow(const ReminderRef& reminder) {
+    reminderOnView = reminder;
+    Show_Text(reminder.Peek()->rs_Text);
+    Lay_Out(Show_Actions(*reminder.Peek()));
 }
 
 void frmImportantRWin::Show_Text(const QString& text) {

@@ -1,7 +1,6 @@
 #include "delivery/message_menu.h"
 
 #include "core/remind_again.h"
-#include "core/reminder_store.h"
 #include "delivery/important_rwin.h"
 #include "delivery/message_queue.h"
 #include "platform/dialogs.h"
@@ -10,9 +9,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-ReminderClass* Find_Reminder(std::int32_t id, std::int32_t id2) {
-    const std::int32_t index = Find_ReminderIndex(id, id2);
-    return index == -1 ? nullptr : Global_Reminders[static_cast<std::size_t>(index)].Reminder.get();
+// False: the reminder is gone. Its file is written with the next save of the store.
+bool Carry_Out(const ReminderRef& shown, ReminderAnswer answer, std::int32_t option) {
+    ReminderClass* reminder = shown.Get();
+    switch (answer) {
+    case ReminderAnswer::Ok:
+        return true;
+    case ReminderAnswer::RemindAgain:
+        if (reminder == nullptr)
+            return false;
+        // The queue outlives the run, and finds a reminder by its pair.
+        Settle_IdPair(shown.Slot());
+        return Choose_RA(option, reminder->rs_ID, reminder->rs_ID2);
+    case ReminderAnswer::DisableForToday:
+        if (reminder != nullptr)
+            reminder->rs_DisabledForToday = Get_TodayDay();
+        break;
+    case ReminderAnswer::Disable:
+        if (reminder != nullptr)
+            reminder->rs_Enabled = false;
+        break;
+    }
+    return reminder != nullptr;
 }
 
 void Tell_Gone() {
@@ -20,78 +38,21 @@ void Tell_Gone() {
                                      platform::BoxStyle::Exclamation);
 }
 
-// action gets the reminder's two numbers; false when it is gone.
-template <class Action>
-void Apply_ToMessage(std::int32_t messageIndex, const Action& action) {
+} // namespace
+
+void Answer_Message(std::int32_t messageIndex, ReminderAnswer answer, std::int32_t option) {
     if (messageIndex < 0 || static_cast<std::size_t>(messageIndex) >= Global_ToolbarMessages.size())
         return;
     const ToolbarMessage& message = Global_ToolbarMessages[static_cast<std::size_t>(messageIndex)];
-    if (action(message.ReminderID, message.ReminderCategoryID))
+    if (Carry_Out(message.Reminder, answer, option))
         Dismiss_Message(messageIndex);
     else
         Tell_Gone();
 }
 
-template <class Action>
-void Apply_ToWindow(frmImportantRWin& caller, const Action& action) {
-    if (action(caller.ThisReminderID, caller.ThisCategoryID))
+void Answer_Window(frmImportantRWin& caller, ReminderAnswer answer, std::int32_t option) {
+    if (Carry_Out(caller.Shown_Reminder(), answer, option))
         caller.wbButton3_Click();
     else
         Tell_Gone();
-}
-
-auto Remind_Again(std::int32_t option) {
-    return [option](std::int32_t id, std::int32_t id2) {
-        const std::int32_t index = Find_ReminderIndex(id, id2);
-        if (index == -1)
-            return false;
-        Settle_IdPair(index);
-        return Choose_RA(option, id, id2);
-    };
-}
-
-} // namespace
-
-bool Disable_ReminderForToday(std::int32_t id, std::int32_t id2) {
-    ReminderClass* reminder = Find_Reminder(id, id2);
-    if (reminder == nullptr)
-        return false;
-    reminder->rs_DisabledForToday = Get_TodayDay();
-    return true;
-}
-
-bool Disable_Reminder(std::int32_t id, std::int32_t id2) {
-    ReminderClass* reminder = Find_Reminder(id, id2);
-    if (reminder == nullptr)
-        return false;
-    reminder->rs_Enabled = false;
-    return true;
-}
-
-void Message_Ok(std::int32_t messageIndex) {
-    Dismiss_Message(messageIndex);
-}
-
-void Message_RemindAgain(std::int32_t messageIndex, std::int32_t option) {
-    Apply_ToMessage(messageIndex, Remind_Again(option));
-}
-
-void Message_DisableForToday(std::int32_t messageIndex) {
-    Apply_ToMessage(messageIndex, Disable_ReminderForToday);
-}
-
-void Message_Disable(std::int32_t messageIndex) {
-    Apply_ToMessage(messageIndex, Disable_Reminder);
-}
-
-void Window_RemindAgain(frmImportantRWin& caller, std::int32_t option) {
-    Apply_ToWindow(caller, Remind_Again(option));
-}
-
-void Window_DisableForToday(frmImportantRWin& caller) {
-    Apply_ToWindow(caller, Disable_ReminderForToday);
-}
-
-void Window_Disable(frmImportantRWin& caller) {
-    Apply_ToWindow(caller, Disable_Reminder);
 }

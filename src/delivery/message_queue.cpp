@@ -2,7 +2,6 @@
 
 #include "controls/timers.h"
 #include "controls/toolbar.h"
-#include "core/reminder_store.h"
 #include "delivery/message_line.h"
 
 #include <algorithm>
@@ -29,21 +28,14 @@ ToolbarMessage& Message_At(std::int32_t index) {
     return Global_ToolbarMessages[static_cast<std::size_t>(index)];
 }
 
-const ReminderClass* Find_Reminder(std::int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= Global_Reminders.size())
-        return nullptr;
-    const ReminderSlot& slot = Global_Reminders[static_cast<std::size_t>(index)];
-    return slot.Used ? &slot.Reminder.Peek() : nullptr;
-}
-
 // Nothing when the reminder is in the queue already.
-ToolbarMessage* Take_FreeSlot(std::int32_t id, std::int32_t id2) {
+ToolbarMessage* Take_FreeSlot(const ReminderRef& due) {
     ToolbarMessage* freeSlot = nullptr;
     for (ToolbarMessage& message : Global_ToolbarMessages) {
         if (!message.Active) {
             if (freeSlot == nullptr)
                 freeSlot = &message;
-        } else if (message.ReminderID == id && message.ReminderCategoryID == id2) {
+        } else if (message.Reminder == due) {
             return nullptr;
         }
     }
@@ -130,11 +122,9 @@ void Init_ToolbarMessages() {
     labelLeft = 0;
 }
 
-void Show_ToolbarMessage(std::int32_t reminderIndex) {
-    const ReminderClass* reminder = Find_Reminder(reminderIndex);
-    if (reminder == nullptr)
-        return;
-    ToolbarMessage* slot = Take_FreeSlot(reminder->rs_ID, reminder->rs_ID2);
+void Show_ToolbarMessage(const ReminderRef& due) {
+    const ReminderClass* reminder = due.Peek();
+    ToolbarMessage* slot = reminder == nullptr ? nullptr : Take_FreeSlot(due);
     if (slot == nullptr)
         return;
     const Moment now = Read_Moment();
@@ -147,8 +137,7 @@ void Show_ToolbarMessage(std::int32_t reminderIndex) {
     message.StartMinute = now.Minute;
     message.EndMinute = now.Minute + MinutesOnLine;
     message.Day = now.Today;
-    message.ReminderID = reminder->rs_ID;
-    message.ReminderCategoryID = reminder->rs_ID2;
+    message.Reminder = due;
     *slot = message;
     Global_Timers->Enable(TimerName::S_Reminder_Timer);
 }

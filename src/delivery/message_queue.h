@@ -2,6 +2,7 @@
 // minutes, several of them taking turns.
 #pragma once
 
+#include "core/reminder_ref.h"
 #include "core/time_routines.h"
 
 #include <QString>
@@ -19,8 +20,7 @@ struct ToolbarMessage {
     std::int32_t EndMinute = 0;   // StartMinute + 5, not wrapped at midnight
     ::Day Day = 0;                // when it came
     std::int32_t LastShown = 0;   // millisecond clock
-    std::int32_t ReminderID = 0;
-    std::int32_t ReminderCategoryID = 0; // rs_ID2
+    ReminderRef Reminder;
 };
 
 extern std::vector<ToolbarMessage> Global_ToolbarMessages; // 0..20, grown by 20
@@ -28,8 +28,8 @@ extern std::int32_t Global_CurrentMessage;                 // -1 = none on the l
 extern bool Global_MessagePaused;                          // while set the scrolling stands still
 
 void Init_ToolbarMessages();
-// Queues the reminder of a slot once, and starts S_Reminder_Timer.
-void Show_ToolbarMessage(std::int32_t reminderIndex);
+// Queues the reminder once, and starts S_Reminder_Timer. Nothing for one that is gone.
+void Show_ToolbarMessage(const ReminderRef& due);
 // One step of S_Reminder_Timer: one pixel.
 void Message_Tick();
 // True when a message is on the line afterwards.

@@ -2,7 +2,6 @@
 
 #include "controls/the_screen.h"
 #include "core/date_text.h"
-#include "core/reminder_store.h"
 #include "core/swallowed_runs.h"
 
 #include <algorithm>
@@ -43,13 +42,10 @@ QString Day_Prefix(Day missed, Day today) {
 }
 
 MissedEntry Make_Row(std::int32_t index, Day missed, Day today) {
-    // A row is found again by its pair.
-    Settle_IdPair(index);
-    const ReminderClass& reminder =
-        Global_Reminders[static_cast<std::size_t>(index)].Reminder.Peek();
-    QString text = reminder.rs_Text;
+    const ReminderRef reminder = ReminderRef::Of_Slot(index);
+    QString text = reminder.Peek()->rs_Text;
     text.replace("\r\n"_L1, " - "_L1);
-    return {Day_Prefix(missed, today) + text, reminder.rs_ID, reminder.rs_ID2, missed};
+    return {Day_Prefix(missed, today) + text, reminder, missed};
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/toolbar.h"
+#include "core/reminder_ref.h"
 #include "core/time_routines.h"
 #include "platform/desktop.h"
 
@@ -13,8 +14,7 @@
 
 struct MissedEntry {
     QString Text; // with the day in front
-    std::int32_t ID = 0;
-    std::int32_t ID2 = 0;
+    ReminderRef Reminder;
     ::Day Day = 0; // the day missed
 };
 

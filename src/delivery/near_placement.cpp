@@ -1,41 +1,16 @@
 #include "delivery/near_placement.h"
 
+#include "delivery/rwin_table.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <optional>
 
 namespace {
 
-constexpr std::size_t FirstEntries = 21;
-constexpr std::size_t MoreEntries = 20;
 constexpr std::int32_t WindowWidth = 254;
 constexpr std::int32_t Overhang = 20;       // a window may pass the screen's edge by so much
 constexpr std::int32_t TypicalHeight = 190; // to find the larger free part of the screen
-
-// Index of the first free entry; nothing when the reminder is in the table.
-template <class Entry>
-std::optional<std::size_t> Take_Entry(std::vector<Entry>& table, const WindowRequest& request) {
-    std::size_t free = table.size();
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (!table[i].Used) {
-            if (free == table.size())
-                free = i;
-        } else if (table[i].ID == request.ID && table[i].ID2 == request.ID2) {
-            return std::nullopt;
-        }
-    }
-    if (free == table.size())
-        table.resize(table.size() + MoreEntries);
-    return free;
-}
-
-template <class Entry>
-void Fill_Entry(Entry& entry, const WindowRequest& request) {
-    entry.Used = true;
-    entry.ReminderIndex = request.ReminderIndex;
-    entry.ID = request.ID;
-    entry.ID2 = request.ID2;
-}
 
 // The column behind the last one of the side.
 std::int32_t Next_Column(const std::vector<NearWindowEntry>& table, NearSide side) {
@@ -164,23 +139,16 @@ NearPlacement Place_Entry(NearWindowEntry& entry, std::vector<NearWindowEntry>& 
 
 } // namespace
 
-std::vector<NearWindowEntry> Global_NearWindows;
-std::vector<CenterWindowEntry> Global_CenterWindows;
-
-void Init_ReminderWindows() {
-    Global_NearWindows.assign(FirstEntries, NearWindowEntry());
-    Global_CenterWindows.assign(FirstEntries, CenterWindowEntry());
-}
-
-NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
-                               const ToolbarRect& toolbar, const QRect& screen) {
-    const std::optional<std::size_t> free = Take_Entry(table, request);
+NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const ReminderRef& due,
+                               std::int32_t tick, const ToolbarRect& toolbar, const QRect& screen) {
+    const std::optional<std::size_t> free = Free_EntryFor(table, due);
     if (!free)
         return {};
     NearWindowEntry entry;
+    entry.Used = true;
+    entry.Reminder = due;
     entry.IsEdgeWindow = true;
-    entry.Tick = request.Tick;
-    Fill_Entry(entry, request);
+    entry.Tick = tick;
     NearPlacement placement = Place_Entry(entry, table, toolbar, screen);
     placement.Entry = *free;
     table[*free] = entry;
@@ -193,17 +161,4 @@ std::int32_t NearWindow_Top(const NearWindowEntry& entry, const ToolbarRect& too
     const std::int32_t top = entry.AlignBottom ? (under ? toolbar.Top : toolbar.Bottom) - height
                                                : (under ? toolbar.Bottom : toolbar.Top);
     return Held_Inside(top, height, screen.top(), screen.bottom() + 1);
-}
-
-std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request) {
-    const std::optional<std::size_t> free = Take_Entry(table, request);
-    if (!free)
-        return -1;
-    Fill_Entry(table[*free], request);
-    return static_cast<std::int32_t>(*free);
-}
-
-QPoint Centered_Place(const QRect& screen, const QSize& window) {
-    return screen.topLeft() +
-           QPoint((screen.width() - window.width()) / 2, (screen.height() - window.height()) / 2);
 }

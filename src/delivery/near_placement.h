@@ -1,8 +1,9 @@
-// Where the reminder windows stand: in columns to the left and right of the toolbar, or at the
-// centre of the screen. The tables say what is on view now. Plain data; all lengths are pixels.
+// Where the reminder windows beside the toolbar stand: in columns to its left and right. The table
+// says what is on view now. Plain data; all lengths are pixels.
 #pragma once
 
 #include "controls/toolbar.h"
+#include "core/reminder_ref.h"
 
 #include <QRect>
 
@@ -24,49 +25,23 @@ struct NearWindowEntry {
     std::int32_t Waiting = 0; // how many reminders were added to this window
     bool IsQueued = false;    // held inside another entry's window
     std::int32_t Tick = 0;    // millisecond clock at creation
-    std::int32_t ReminderIndex = 0;
+    ReminderRef Reminder;
     frmImportantRWin* WorkForm = nullptr;
     bool IsEdgeWindow = false; // the outermost of its column
-    std::int32_t ID = 0;
-    std::int32_t ID2 = 0;
-};
-
-struct CenterWindowEntry {
-    bool Used = false;
-    std::int32_t ReminderIndex = 0;
-    std::int32_t ID = 0;
-    std::int32_t ID2 = 0;
-};
-
-extern std::vector<NearWindowEntry> Global_NearWindows;     // 0..20, grown by 20
-extern std::vector<CenterWindowEntry> Global_CenterWindows; // 0..20, grown by 20
-
-void Init_ReminderWindows();
-
-struct WindowRequest {
-    std::int32_t ReminderIndex = 0;
-    std::int32_t ID = 0;
-    std::int32_t ID2 = 0;
-    std::int32_t Tick = 0; // millisecond clock now
 };
 
 enum class NearDecision { AlreadyShown, NewWindow, Queued };
 
 struct NearPlacement {
     NearDecision Decision = NearDecision::AlreadyShown;
-    std::size_t Entry =
-        0; // the entry filled for the reminder; the caller of NewWindow adds WorkForm
-    std::size_t Host = 0; // Queued: the entry whose window takes the reminder
-    std::int32_t X = 0;   // left edge of the window
+    std::size_t Entry = 0; // filled for the reminder; the caller of NewWindow adds WorkForm
+    std::size_t Host = 0;  // Queued: the entry whose window takes the reminder
+    std::int32_t X = 0;    // left edge of the window
 };
 
-// Decides for one reminder and brings the table up to date.
-NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const WindowRequest& request,
-                               const ToolbarRect& toolbar, const QRect& screen);
+// Decides for one reminder and brings the table up to date. tick: millisecond clock now.
+NearPlacement Place_NearWindow(std::vector<NearWindowEntry>& table, const ReminderRef& due,
+                               std::int32_t tick, const ToolbarRect& toolbar, const QRect& screen);
 // Top edge of the entry's window, of this height.
 std::int32_t NearWindow_Top(const NearWindowEntry& entry, const ToolbarRect& toolbar,
                             std::int32_t height, const QRect& screen);
-
-// The entry filled for the reminder in the centred window, or -1 when it is there already.
-std::int32_t Take_CenterEntry(std::vector<CenterWindowEntry>& table, const WindowRequest& request);
-QPoint Centered_Place(const QRect& screen, const QSize& window);

@@ -4,18 +4,15 @@
 
 #include "platform/desktop.h"
 
-#include <cstdint>
-
 class frmImportantRWin;
 
 class OptionsMenu {
 public:
     virtual ~OptionsMenu() = default;
-    // Opens mnuOptionsTop for the reminder of a slot at a place of the screen (pixels), without the
-    // entries that only a message on the line has. Returns when it has closed; events are handled
-    // meanwhile, and the window may be gone then.
-    virtual void Open_For_Window(frmImportantRWin& caller, std::int32_t reminderIndex,
-                                 platform::Point place) = 0;
+    // Opens mnuOptionsTop for the reminder that a window shows at a place of the screen (pixels),
+    // without the entries that only a message on the line has. Returns when it has closed; events
+    // are handled meanwhile, and the window may be gone then.
+    virtual void Open_For_Window(frmImportantRWin& caller, platform::Point place) = 0;
 };
 
 extern OptionsMenu* Global_OptionsMenu;

@@ -67,8 +67,7 @@ frmNotesEditor::frmNotesEditor() {
     list->setFocus();
     const QRect screen = The_Screen();
     resize(FirstSize.boundedTo(screen.size()));
-    move(screen.left() + (screen.width() - width()) / 2,
-         screen.top() + (screen.height() - height()) / 2);
+    move(Centered_In(screen, size()));
     Lay_Out();
     const int category = Is_NoteCategory(Global_LastNoteCategory) ? Global_LastNoteCategory : 0;
     Select_Category(Is_NoteCategory(category) ? category : NoCategory);

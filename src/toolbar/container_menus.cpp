@@ -4,9 +4,11 @@
 #include "controls/program_end.h"
 #include "core/remind_again.h"
 #include "delivery/important_rwin.h"
+#include "delivery/message_menu.h"
 #include "delivery/message_queue.h"
 
 #include <QMenu>
+#include <QPointer>
 
 #include <optional>
 #include <utility>
@@ -64,112 +66,71 @@ bool Same_Message(int index, const ToolbarMessage& before) {
         return false;
     }
     const ToolbarMessage& now = Global_ToolbarMessages[static_cast<std::size_t>(index)];
-    return now.Active && now.ReminderID == before.ReminderID &&
-           now.ReminderCategoryID == before.ReminderCategoryID;
+    return now.Active && now.Reminder == before.Reminder;
 }
 
-} // namespace
-
-frmContainer::frmContainer(MessageActions messageActions) : actions(std::move(messageActions)) {}
-
-frmContainer::~frmContainer() = default;
-
-void frmContainer::Serve_Windows(WindowActions actionsOfWindows) {
-    windowActions = std::move(actionsOfWindows);
-}
-
-bool frmContainer::Offers(int item) const {
-    const bool line = IsStandardReminder;
+// What an entry of the options menu means, and which of the choices of minutes.
+std::pair<ReminderAnswer, std::int32_t> Answer_Of(int item) {
     switch (static_cast<OptionsItem>(item)) {
     case OptionsItem::Ok_GotIt:
-        return line && actions.Ok;
+        return {ReminderAnswer::Ok, 0};
     case OptionsItem::DisableForToday:
-        return line ? bool(actions.DisableForToday) : bool(windowActions.DisableForToday);
+        return {ReminderAnswer::DisableForToday, 0};
     case OptionsItem::Disable:
-        return line ? bool(actions.Disable) : bool(windowActions.Disable);
-    case OptionsItem::RemindAgain:
-        return !Global_RA_Options.empty() &&
-               (line ? bool(actions.RemindAgain) : bool(windowActions.RemindAgain));
+        return {ReminderAnswer::Disable, 0};
     default:
-        return false;
+        return {ReminderAnswer::RemindAgain, item - static_cast<int>(OptionsItem::FirstRA)};
     }
 }
 
-std::optional<int> frmContainer::Ask_Options(const QPoint& where) const {
+bool Is_Offered(int item) {
+    return item != static_cast<int>(OptionsItem::RemindAgain) || !Global_RA_Options.empty();
+}
+
+enum class Serves { Message, Window };
+
+std::optional<int> Ask_Options(Serves whom, const QPoint& where) {
     QMenu menu;
-    const auto offered = [this](int item) { return Offers(item); };
-    if (IsStandardReminder) {
-        Add_Rows(menu, mnuOptions_SR_Only(), offered);
+    if (whom == Serves::Message) {
+        Add_Rows(menu, mnuOptions_SR_Only(), Is_Offered);
     }
-    Add_Rows(menu, mnuOptions(), offered);
+    Add_Rows(menu, mnuOptions(), Is_Offered);
     Add_RemindAgain(menu);
     // Not once the menu has answered: another menu or box may be open by then.
     QObject::connect(&menu, &QMenu::aboutToHide, [] { Global_MessagePaused = false; });
     return Ask(menu, where);
 }
 
+} // namespace
+
 void frmContainer::Popup_MessageOptions(const QPoint& where) {
     const int index = Global_CurrentMessage;
     if (index < 0 || index >= static_cast<int>(Global_ToolbarMessages.size())) {
         return;
     }
-    IsStandardReminder = true;
-    wReminderListI = index;
     const ToolbarMessage served = Global_ToolbarMessages[static_cast<std::size_t>(index)];
     Global_MessagePaused = true;
-    const std::optional<int> picked = Ask_Options(where);
+    const std::optional<int> picked = Ask_Options(Serves::Message, where);
     if (picked && Same_Message(index, served)) {
-        wReminderListI = index;
-        mnuOptions_Click(*picked);
+        const auto [answer, option] = Answer_Of(*picked);
+        Answer_Message(index, answer, option);
     }
 }
 
-void frmContainer::mnuOptions_Click(int item) const {
-    const int option = item - static_cast<int>(OptionsItem::FirstRA);
-    if (option >= 0) {
-        actions.RemindAgain(wReminderListI, option);
-    } else if (item == static_cast<int>(OptionsItem::Ok_GotIt)) {
-        actions.Ok(wReminderListI);
-    } else if (item == static_cast<int>(OptionsItem::DisableForToday)) {
-        actions.DisableForToday(wReminderListI);
-    } else if (item == static_cast<int>(OptionsItem::Disable)) {
-        actions.Disable(wReminderListI);
-    }
-}
-
-void frmContainer::Open_For_Window(frmImportantRWin& caller, std::int32_t reminderIndex,
-                                   platform::Point place) {
-    IsStandardReminder = false;
-    wReminderListI = reminderIndex;
-    CallerRWin = &caller;
-    const QPointer<frmImportantRWin> served = CallerRWin;
-    const std::pair reminder(caller.ThisReminderID, caller.ThisCategoryID);
-    const std::optional<int> picked = Ask_Options(QPoint(place.x, place.y));
+void frmContainer::Open_For_Window(frmImportantRWin& caller, platform::Point place) {
+    const QPointer<frmImportantRWin> window(&caller);
+    const ReminderRef served = caller.Shown_Reminder();
+    const std::optional<int> picked = Ask_Options(Serves::Window, QPoint(place.x, place.y));
     // The window goes on to its next reminder, or closes, without asking the menu.
-    if (!picked || !served || served->Is_Closed() ||
-        reminder != std::pair(served->ThisReminderID, served->ThisCategoryID)) {
-        return;
-    }
-    CallerRWin = served;
-    Window_Click(*picked);
-}
-
-void frmContainer::Window_Click(int item) const {
-    const int option = item - static_cast<int>(OptionsItem::FirstRA);
-    if (option >= 0) {
-        windowActions.RemindAgain(*CallerRWin, option);
-    } else if (item == static_cast<int>(OptionsItem::DisableForToday)) {
-        windowActions.DisableForToday(*CallerRWin);
-    } else if (item == static_cast<int>(OptionsItem::Disable)) {
-        windowActions.Disable(*CallerRWin);
+    if (picked && window && !window->Is_Closed() && window->Shown_Reminder() == served) {
+        const auto [answer, option] = Answer_Of(*picked);
+        Answer_Window(*window, answer, option);
     }
 }
 
-void frmContainer::Popup_HideOptions(const QPoint& where,
-                                     const std::function<bool(HideOption)>& offered) {
+void frmContainer::Popup_HideOptions(const QPoint& where) {
     Global_HideOptionAnswer = -1;
     QMenu menu;
-    Add_Rows(menu, mnuHideOptions(),
-             [&offered](int number) { return offered(static_cast<HideOption>(number)); });
+    Add_Rows(menu, mnuHideOptions(), [](int) { return true; });
     Global_HideOptionAnswer = Ask(menu, where).value_or(-1);
 }

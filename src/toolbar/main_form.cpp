@@ -39,9 +39,8 @@ std::int32_t Within_Reach(std::int32_t twips, int twipsPerPixel) {
 
 } // namespace
 
-MainForm::MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActions)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), commands(toolbarCommands),
-      container(std::move(messageActions)) {
+MainForm::MainForm(ToolbarCommands& toolbarCommands)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), commands(toolbarCommands) {
     setWindowTitle(u"Tockly Toolbar"_s);
     Set_HelpTopic(*this, help_page::Toolbar);
     setMinimumSize(1, 1);

@@ -47,7 +47,7 @@ struct HidePorts {
 class MainForm : public QWidget, public Toolbar, public MessageLine {
     Q_OBJECT
 public:
-    MainForm(ToolbarCommands& toolbarCommands, MessageActions messageActions);
+    explicit MainForm(ToolbarCommands& toolbarCommands);
     ~MainForm() override;
 
     // Takes its place and its look from the settings, once they are read. Does not show it.
@@ -152,7 +152,6 @@ private:
     void wbButton1_Click();
     void Open_CloseMenu(const QPoint& where);
     void Do_CloseAction(CloseAction action);
-    bool Close_Offered(HideOption option) const;
 
     void AutoHideTimer_Tick();
     void Watch_Mouse();

@@ -122,12 +122,8 @@ void MainForm::wbButton1_Click() {
 }
 
 void MainForm::Open_CloseMenu(const QPoint& where) {
-    container.Popup_HideOptions(where, [this](HideOption option) { return Close_Offered(option); });
+    container.Popup_HideOptions(where);
     Do_CloseAction(CloseAction_OfAnswer(Global_HideOptionAnswer));
-}
-
-bool MainForm::Close_Offered(HideOption option) const {
-    return option != HideOption::Unload || commands.Has(ToolbarCommand::Unload);
 }
 
 void MainForm::Do_CloseAction(CloseAction action) {

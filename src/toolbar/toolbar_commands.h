@@ -30,21 +30,3 @@ private:
     std::array<std::function<void()>, ToolbarCommandCount> works;
     std::function<void()> changed;
 };
-
-class frmImportantRWin;
-
-// What the entries of the options menu do for a message of the line, by the message's index. An
-// entry without work is disabled. option: index into Global_RA_Options.
-struct MessageActions {
-    std::function<void(int)> Ok;
-    std::function<void(int)> DisableForToday;
-    std::function<void(int)> Disable;
-    std::function<void(int, int option)> RemindAgain = {};
-};
-
-// The same for the reminder that a window shows.
-struct WindowActions {
-    std::function<void(frmImportantRWin&)> DisableForToday;
-    std::function<void(frmImportantRWin&)> Disable;
-    std::function<void(frmImportantRWin&, int option)> RemindAgain;
-};

@@ -1,6 +1,7 @@
 // The checks that come only when something can fire, against the check of every second.
 #include "app/reminder_watch.h"
 #include "core/remind_again.h"
+#include "core/reminder_ref.h"
 #include "core/reminder_store.h"
 #include "editors/wizard/quick_add_rules.h"
 #include "support/fake_clock.h"
@@ -69,7 +70,7 @@ protected:
     int ticks = 0;
     int seconds = 0;
     ReminderWatch watch{timers,
-                        {[this](std::int32_t index) { fired.push_back(index); },
+                        {[this](const ReminderRef& due) { fired.push_back(due.Slot()); },
                          [](const Moment&, const Moment&) {}, [this] { ++changes; }}};
 };
 

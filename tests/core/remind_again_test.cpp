@@ -1,4 +1,5 @@
 #include "core/remind_again.h"
+#include "core/reminder_ref.h"
 #include "core_test.h"
 
 using namespace Qt::StringLiterals;
@@ -17,9 +18,7 @@ protected:
     // The first numbers of the reminders that one pass delivers.
     std::vector<std::int32_t> Check() {
         std::vector<std::int32_t> delivered;
-        Check_RA_Reminders([&](std::int32_t slot) {
-            delivered.push_back(Global_Reminders[static_cast<std::size_t>(slot)].Reminder->rs_ID);
-        });
+        Check_RA_Reminders([&](const ReminderRef& due) { delivered.push_back(due.Get()->rs_ID); });
         return delivered;
     }
 };

@@ -48,7 +48,7 @@ void Use_Table() {
         DayToDateString(slot.Reminder->GetNext_RunDate(start));
         DayToDateString(slot.Reminder->GetPrevious_RunDate(start));
     }
-    ReminderTick().Check([](std::int32_t) {});
+    ReminderTick().Check([](const ReminderRef&) {});
     Sync_CategoriesFromReminders();
     std::int32_t id2 = 0;
     EXPECT_EQ(Find_ReminderIndex(Get_NewReminderID(id2), id2), -1);

@@ -1,3 +1,4 @@
+#include "core/reminder_ref.h"
 #include "core_test.h"
 
 class Tick : public CoreTest {
@@ -23,8 +24,8 @@ TEST_F(Tick, ADeliveryMayChangeTheTableUnderTheLoop) {
     }
     Global_Reminders[3].Pending = true;
     std::vector<std::int32_t> ids;
-    tick.Check([&ids](std::int32_t index) {
-        ids.push_back(Global_Reminders[static_cast<std::size_t>(index)].Reminder->rs_ID);
+    tick.Check([&ids](const ReminderRef& due) {
+        ids.push_back(due.Get()->rs_ID);
         Global_Reminders.resize(Global_Reminders.size() + 5000);
         Global_Reminders.back() = {true, false, std::make_unique<ReminderClass>()};
         *Global_Reminders.back().Reminder = *Global_Reminders[0].Reminder;
@@ -33,9 +34,7 @@ TEST_F(Tick, ADeliveryMayChangeTheTableUnderTheLoop) {
     });
     EXPECT_EQ(ids, (std::vector<std::int32_t>{0, 1, 4}));
     ids.clear();
-    tick.Check([&ids](std::int32_t index) {
-        ids.push_back(Global_Reminders[static_cast<std::size_t>(index)].Reminder->rs_ID);
-    });
+    tick.Check([&ids](const ReminderRef& due) { ids.push_back(due.Get()->rs_ID); });
     EXPECT_EQ(ids.front(), 2);
 }
 
@@ -46,7 +45,7 @@ TEST_F(Tick, AMidnightInADeliveryIsSeenByTheNextReminder) {
     }
     clock.Set(2026, 3, 2, 23, 59, 59);
     int fired = 0;
-    tick.Check([&](std::int32_t) {
+    tick.Check([&](const ReminderRef&) {
         ++fired;
         clock.Advance(2000);
     });

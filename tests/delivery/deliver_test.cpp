@@ -1,4 +1,3 @@
-#include "core/remind_again.h"
 #include "delivery/deliver.h"
 #include "delivery/message_menu.h"
 #include "support/fake_files.h"
@@ -19,7 +18,7 @@ protected:
         const std::int32_t index = Add_Reminder(u"text"_s);
         Reminder(index).rs_PlaySound = playSound;
         Reminder(index).rs_SoundPath = path;
-        Deliver_Reminder(index);
+        Deliver_Reminder(Ref(index));
         return std::exchange(media.commands, {}).join(u'|').replace(sound, u"F"_s);
     }
 
@@ -73,7 +72,7 @@ TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
         desktop.minimised = 0;
         const std::int32_t index = Add_Typed(u"text"_s, static_cast<ReminderType>(row.type));
         Reminder(index).rs_Minimize_Apps = row.minimize;
-        Deliver_Reminder(index);
+        Deliver_Reminder(Ref(index));
         EXPECT_EQ(Any_MessageActive(), row.onLine) << row.name;
         EXPECT_EQ(Global_NearWindows[0].Used, row.near) << row.name;
         EXPECT_EQ(Global_CenterWindows[0].Used, row.centered) << row.name;
@@ -83,8 +82,8 @@ TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
     Reminder(Add_Reminder(u"freed"_s)).rs_PlaySound = true;
     Global_Reminders[0].Used = false;
     for (const std::int32_t index : {-1, 0, 1, 51}) {
-        Deliver_Reminder(index);
-        Show_ToolbarMessage(index);
+        Deliver_Reminder(Ref(index));
+        Show_ToolbarMessage(Ref(index));
     }
     EXPECT_FALSE(Any_MessageActive());
     EXPECT_EQ(desktop.beeps, 0);
@@ -104,7 +103,7 @@ TEST_F(Deliver, Reminders_that_share_a_pair_are_all_shown_and_found_again) {
                 Reminder(index).rs_ID = 0;
             }
             for (const int index : {first, 1 - first, first})
-                Deliver_Reminder(index);
+                Deliver_Reminder(Ref(index));
             EXPECT_EQ(Shown(Global_ToolbarMessages, [](const auto& one) { return one.Active; }) +
                           Shown(Global_NearWindows, [](const auto& one) { return one.Used; }) +
                           Shown(Global_CenterWindows, [](const auto& one) { return one.Used; }),
@@ -113,9 +112,9 @@ TEST_F(Deliver, Reminders_that_share_a_pair_are_all_shown_and_found_again) {
         }
     }
     Start_Afresh(9, 0, 0);
-    Deliver_Reminder(Add_Typed(u"A"_s, ReminderType::InsideToolbar));
+    Deliver_Reminder(Ref(Add_Typed(u"A"_s, ReminderType::InsideToolbar)));
     Reminder(Add_Typed(u"made since"_s, ReminderType::InsideToolbar)).rs_ID = 0;
-    Message_RemindAgain(0, 0);
+    Answer_Message(0, ReminderAnswer::RemindAgain);
     EXPECT_EQ(Find_ReminderIndex(Global_RA_Reminders[0].ID, Global_RA_Reminders[0].ID2), 0);
     EXPECT_NE(Reminder(1).rs_ID, 0);
 }
@@ -127,7 +126,7 @@ TEST_F(Deliver, Of_a_thousand_at_once_each_is_reached_once) {
         for (int number = 0; number < 1000; ++number)
             Add_Typed(QString::number(number), type);
         for (std::int32_t index = 0; index < 2000; ++index)
-            Deliver_Reminder(index % 1000);
+            Deliver_Reminder(Ref(index % 1000));
         QSet<QString> reached;
         for (QWidget* window : QApplication::topLevelWidgets()) {
             auto* note = qobject_cast<frmImportantRWin*>(window);

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "controls/timers.h"
-#include "core/reminder_store.h"
+#include "core/remind_again.h"
+#include "core/reminder_ref.h"
 #include "delivery/deliver.h"
 #include "delivery/message_line.h"
 #include "delivery/message_queue.h"
@@ -42,6 +43,7 @@ protected:
         clock.Set(2026, 3, 2, hour, minute, second);
         Init_TimeRoutines();
         Init_Reminders();
+        Init_RA_Reminders();
         Init_MessageWinRoutines();
         line.puts.clear();
     }
@@ -54,6 +56,7 @@ protected:
         slot.Reminder->rs_Text = text;
         return index;
     }
+    static ReminderRef Ref(std::int32_t index) { return ReminderRef::Of_Slot(index); }
     ReminderClass& Reminder(std::int32_t index) {
         return *Global_Reminders[static_cast<std::size_t>(index)].Reminder;
     }

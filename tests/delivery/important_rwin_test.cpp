@@ -1,6 +1,5 @@
 #include "controls/program_end.h"
 #include "controls/transparency.h"
-#include "core/remind_again.h"
 #include "delivery/message_menu.h"
 #include "delivery/options_menu.h"
 #include "window_fixture.h"
@@ -16,14 +15,11 @@ namespace {
 
 struct FakeMenu : OptionsMenu {
     std::function<void(frmImportantRWin&)> pick;
-    std::int32_t reminderIndex = -1;
     platform::Point place;
 
     FakeMenu() { Global_OptionsMenu = this; }
     ~FakeMenu() override { Global_OptionsMenu = nullptr; }
-    void Open_For_Window(frmImportantRWin& caller, std::int32_t index,
-                         platform::Point where) override {
-        reminderIndex = index;
+    void Open_For_Window(frmImportantRWin& caller, platform::Point where) override {
         place = where;
         if (pick)
             pick(caller);
@@ -34,7 +30,7 @@ class ReminderWindow : public WindowTest {
 protected:
     ReminderWindow() { Init_RA_Reminders(); }
     frmImportantRWin* Show(std::int32_t index) {
-        Show_NextToToolbar(index);
+        Show_NextToToolbar(Ref(index));
         return Global_NearWindows[0].WorkForm;
     }
     void Set_Actions(std::int32_t index, int count) {
@@ -48,9 +44,11 @@ protected:
         desktop.screen = {300, 600};
         toolbar.bounds = {0, 0, 20, 20};
         for (int number = 0; number < count; ++number)
-            Deliver_Reminder(Add_Typed(QString::number(number), type));
+            Deliver_Reminder(Ref(Add_Typed(QString::number(number), type)));
         return type == ReminderType::Centered ? Centered_Window() : Near_Window(0);
     }
+
+    FakeMenu menu;
 };
 
 TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) {
@@ -85,7 +83,7 @@ TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
     frmImportantRWin* window = Show(index);
     for (const auto& [name, text, scrolls] : cases) {
         Reminder(index).rs_Text = text;
-        window->UpdateWindow(index); // one window shows them one after the other
+        window->UpdateWindow(Ref(index)); // one window shows them one after the other
         const auto* box = window->findChild<QPlainTextEdit*>();
         EXPECT_EQ(box->verticalScrollBar()->isVisible(), scrolls) << name;
         EXPECT_EQ(box->toPlainText().size(), text.size() - text.count("\r\n"_L1)) << name;
@@ -172,7 +170,7 @@ TEST_F(ReminderWindow, A_window_at_the_bottom_grows_upward_with_the_next_reminde
     for (int number = 0; number < 2; ++number) {
         const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
         Set_Actions(index, number * 4);
-        Deliver_Reminder(index);
+        Deliver_Reminder(Ref(index));
     }
     EXPECT_EQ(Near_Window(0)->geometry(), QRect(20, 522, 253, 78));
     Near_Window(0)->wbButton3_Click();
@@ -184,13 +182,13 @@ TEST_F(ReminderWindow, A_window_at_the_bottom_grows_upward_with_the_next_reminde
 TEST_F(ReminderWindow,
        A_closed_one_makes_room_at_once_and_a_reminder_that_fires_again_comes_again) {
     const std::int32_t index = Add_Typed(u"again"_s, ReminderType::Centered);
-    Deliver_Reminder(index);
-    Deliver_Reminder(index);
+    Deliver_Reminder(Ref(index));
+    Deliver_Reminder(Ref(index));
     frmImportantRWin* first = Centered_Window();
     EXPECT_EQ(first->PendingCount(), 0);
     EXPECT_EQ(first->pos(), QPoint(385, 345)); // (1024 - 253) / 2 and (768 - 78) / 2
     first->close();
-    Deliver_Reminder(index); // while the first is still there, about to be released
+    Deliver_Reminder(Ref(index)); // while the first is still there, about to be released
     ASSERT_NE(Centered_Window(), nullptr);
     EXPECT_NE(Centered_Window(), first);
     first->wbButton3_Click();
@@ -201,13 +199,13 @@ TEST_F(ReminderWindow,
 TEST_F(ReminderWindow, It_leaves_an_open_menu_open) {
     for (const bool fades : {false, true}) {
         Global_IsWinXP = Global_UseTransparency = fades;
-        QMenu menu;
-        menu.addAction(u"Entry"_s);
-        menu.popup({});
-        ASSERT_TRUE(menu.isVisible());
-        Deliver_Reminder(Add_Typed(u"1"_s, ReminderType::NextToToolbar));
+        QMenu popup;
+        popup.addAction(u"Entry"_s);
+        popup.popup({});
+        ASSERT_TRUE(popup.isVisible());
+        Deliver_Reminder(Ref(Add_Typed(u"1"_s, ReminderType::NextToToolbar)));
         EXPECT_TRUE(Near_Window(fades ? 1 : 0)->isVisible());
-        EXPECT_TRUE(menu.isVisible());
+        EXPECT_TRUE(popup.isVisible());
     }
     Release_Transparency();
 }
@@ -215,10 +213,9 @@ TEST_F(ReminderWindow, It_leaves_an_open_menu_open) {
 TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
     Global_IsWinXP = Global_UseTransparency = true;
     timers.Start_FirstTimers();
-    Init_ReminderWindows();
     for (int number = 0; number < 2; ++number)
-        Deliver_Reminder(Add_Typed(QString::number(number), ReminderType::NextToToolbar));
-    Deliver_Reminder(Add_Typed(u"2"_s, ReminderType::Centered));
+        Deliver_Reminder(Ref(Add_Typed(QString::number(number), ReminderType::NextToToolbar)));
+    Deliver_Reminder(Ref(Add_Typed(u"2"_s, ReminderType::Centered)));
     EXPECT_TRUE(timers.Is_Enabled(TimerName::TransHandlerTimer));
     EXPECT_TRUE(Near_Window(0)->isVisible() && Centered_Window()->isVisible());
     const platform::WindowId closing = Near_Window(0)->winId();
@@ -229,7 +226,7 @@ TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
     QTest::keyClick(Near_Window(0), Qt::Key_Escape);
     Unload_PendingForms();
     delete Centered_Window();
-    Deliver_Reminder(0); // fires again: a new window in the place of the old one
+    Deliver_Reminder(Ref(0)); // fires again: a new window in the place of the old one
     clock.Advance(700);
     EXPECT_EQ(Global_Transparency().Last_Index(), -1);
     EXPECT_FALSE(windows.windows[closing].alpha.has_value());
@@ -256,10 +253,7 @@ TEST_F(ReminderWindow, The_menu_sees_the_reminder_and_may_take_the_window_away) 
     const std::int32_t index = Add_Typed(u"menu"_s, ReminderType::NextToToolbar);
     frmImportantRWin* window = Show(index);
     wbButton* options = Buttons_Of(window)[0];
-    Click(options); // nobody has a menu yet
-    FakeMenu menu;
     Click(options);
-    EXPECT_EQ(menu.reminderIndex, index);
     EXPECT_EQ(menu.place, (platform::Point{678 + 168, 56 + 17}));
     menu.pick = [](frmImportantRWin& caller) { delete &caller; };
     Click(options);
@@ -270,24 +264,17 @@ TEST_F(ReminderWindow, The_menu_sees_the_reminder_and_may_take_the_window_away) 
     Click(Buttons_Of(window)[0]);
 }
 
-TEST_F(ReminderWindow, Its_menu_changes_the_reminder_and_goes_on_to_the_next) {
-    frmImportantRWin* window = Show_Queue(4, ReminderType::NextToToolbar);
-    Reminder(2).rs_Enabled = true;
-    Window_RemindAgain(*window, 1);
-    EXPECT_EQ(Global_RA_Reminders[0], (RA_Entry{9558, 550, 0, 7})); // 10 minutes from 09:00
-    Window_DisableForToday(*window);
-    EXPECT_EQ(Reminder(1).rs_DisabledForToday, 9558);
-    Window_Disable(*window);
-    EXPECT_FALSE(Reminder(2).rs_Enabled);
-    EXPECT_EQ(Text_Of(window), u"3"_s);
-    Delete_ReminderSlot(3);
-    using Action = void (*)(frmImportantRWin&);
-    for (const Action action : {Action(Window_Disable), Action(Window_DisableForToday),
-                                Action([](frmImportantRWin& w) { Window_RemindAgain(w, 0); })}) {
-        dialogs.Expect_Message(u"Can't find selected reminder"_s);
-        action(*window);
-    }
-    EXPECT_EQ(Global_RA_Last, 0);
+TEST_F(ReminderWindow, An_answer_goes_on_to_the_next_unless_the_reminder_is_gone) {
+    frmImportantRWin* window = Show_Queue(3, ReminderType::NextToToolbar);
+    Reminder(0).rs_Enabled = true;
+    Answer_Window(*window, ReminderAnswer::Disable);
+    EXPECT_FALSE(Reminder(0).rs_Enabled);
+    Answer_Window(*window, ReminderAnswer::RemindAgain, 1);
+    EXPECT_EQ(Global_RA_Reminders[0], (RA_Entry{9558, 550, 1, 7})); // 10 minutes from 09:00
+    EXPECT_EQ(Text_Of(window), u"2"_s);
+    Delete_ReminderSlot(2);
+    dialogs.Expect_Message(u"Can't find selected reminder"_s);
+    Answer_Window(*window, ReminderAnswer::DisableForToday);
     EXPECT_TRUE(window->isVisible());
 }
 

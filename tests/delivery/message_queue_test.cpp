@@ -1,4 +1,3 @@
-#include "core/remind_again.h"
 #include "delivery/message_menu.h"
 #include "delivery_fixture.h"
 
@@ -10,7 +9,7 @@ class MessageQueue : public DeliveryTest {
 protected:
     std::int32_t Show(const QString& text) {
         const std::int32_t index = Add_Reminder(text);
-        Show_ToolbarMessage(index);
+        Show_ToolbarMessage(Ref(index));
         return index;
     }
     void Tick(int count = 1) {
@@ -53,7 +52,7 @@ TEST_F(MessageQueue, A_new_message_goes_first_and_then_each_has_one_turn_a_round
     Show(u"C"_s);
     EXPECT_EQ(Next_Texts(4), u"ABCA"_s);
     Show(u"D"_s); // during the second pass of A
-    Show_ToolbarMessage(first);
+    Show_ToolbarMessage(Ref(first));
     EXPECT_EQ(Next_Texts(8), u"DBCABCDA"_s);
 }
 
@@ -90,31 +89,30 @@ TEST_F(MessageQueue, The_menu_changes_the_reminder_and_takes_the_message_away_in
     const std::int32_t gone = Show(u"gone"_s);
     Reminder(disabled).rs_Enabled = true;
     Tick(5);
-    Message_DisableForToday(Global_CurrentMessage);
+    Answer_Message(Global_CurrentMessage, ReminderAnswer::DisableForToday);
     EXPECT_EQ(Reminder(today).rs_DisabledForToday, 9558); // 26 * 365 + 7 + 31 + 28 + 2
     EXPECT_LT(line.left, -5);
     Tick(5);
-    Message_Disable(Global_CurrentMessage);
+    Answer_Message(Global_CurrentMessage, ReminderAnswer::Disable);
     EXPECT_FALSE(Reminder(disabled).rs_Enabled);
     Tick(5);
-    Message_RemindAgain(Global_CurrentMessage, 3);
+    Answer_Message(Global_CurrentMessage, ReminderAnswer::RemindAgain, 3);
     EXPECT_EQ(Global_RA_Reminders[0], (RA_Entry{9558, 570, later, 0})); // 30 minutes from 09:00
     Tick(5);
     Delete_ReminderSlot(gone);
-    using Action = void (*)(std::int32_t);
-    for (const Action action : {Action(Message_Disable), Action(Message_DisableForToday),
-                                Action([](std::int32_t m) { Message_RemindAgain(m, 0); })}) {
+    for (const auto answer :
+         {ReminderAnswer::Disable, ReminderAnswer::DisableForToday, ReminderAnswer::RemindAgain}) {
         dialogs.Expect_Message(u"Can't find selected reminder"_s);
-        action(Global_CurrentMessage);
+        Answer_Message(Global_CurrentMessage, answer);
     }
     EXPECT_EQ(line.puts, QStringList({u"today"_s, u"off"_s, u"later"_s, u"gone"_s}));
     Tick();
     EXPECT_EQ(line.left, 5); // it stays on its way
-    Message_Ok(Global_CurrentMessage);
+    Answer_Message(Global_CurrentMessage, ReminderAnswer::Ok);
     Tick();
     EXPECT_TRUE(line.cleared && !Timer_Runs() && !Any_MessageActive());
     for (const std::int32_t index : {-1, 0, 21})
-        Message_Ok(index);
+        Answer_Message(index, ReminderAnswer::Ok);
 }
 
 TEST_F(MessageQueue, Texts_of_any_length_are_measured_once_and_the_table_grows) {
@@ -128,7 +126,7 @@ TEST_F(MessageQueue, Texts_of_any_length_are_measured_once_and_the_table_grows) 
     for (int i = 0; i < 30; ++i)
         Show(u"more"_s);
     for (const std::int32_t index : {-1, 49, 1000000})
-        Show_ToolbarMessage(index);
+        Show_ToolbarMessage(Ref(index));
     EXPECT_EQ(Global_ToolbarMessages.size(), 41U);
     EXPECT_EQ(line.measured, 32);
 }

@@ -32,9 +32,14 @@ const Case Cases[] = {
     {"full width, and above it", {1024, 768}, {0, 748, 1024, 768}, {0, 254, 508, 762}, true},
     {"wider than the screen", {800, 600}, {-200, 0, 800, 20}, {0, 254, 508}, false}};
 
+ReminderRef Ref(int number) {
+    while (static_cast<int>(Global_Reminders.size()) <= number)
+        Global_Reminders.push_back({true, false, std::make_unique<ReminderClass>()});
+    return ReminderRef::Of_Slot(number);
+}
+
 NearPlacement Place(std::vector<NearWindowEntry>& table, int number, const Case& row) {
-    return Place_NearWindow(table, {number, number, 7, 1000 + number}, row.toolbar,
-                            {QPoint(), row.screen});
+    return Place_NearWindow(table, Ref(number), 1000 + number, row.toolbar, {QPoint(), row.screen});
 }
 
 // Which of the used entries are edges, as "01".
@@ -95,7 +100,7 @@ TEST(NearPlacement, A_window_is_at_most_20_pixels_over_any_edge_of_the_toolbars_
             const ToolbarRect toolbar{row.toolbar.Left + origin.x(), row.toolbar.Top + origin.y(),
                                       row.toolbar.Right + origin.x(),
                                       row.toolbar.Bottom + origin.y()};
-            const int x = Place_NearWindow(table, {1, 1, 7, 0}, toolbar, screen).X;
+            const int x = Place_NearWindow(table, Ref(1), 0, toolbar, screen).X;
             const int y = NearWindow_Top(table[0], toolbar, row.height, screen);
             EXPECT_EQ(QPoint(x, y), row.place + origin) << row.name;
         }
@@ -138,16 +143,11 @@ TEST(NearPlacement, A_full_screen_prefers_the_empty_then_the_fewest_then_the_old
     }
 }
 
-TEST(NearPlacement, The_tables_grow_and_the_centred_window_takes_a_reminder_once) {
-    std::vector<NearWindowEntry> nearTable(21);
-    std::vector<CenterWindowEntry> centerTable(21);
-    for (int number = 0; number < 22; ++number) {
-        EXPECT_EQ(Place(nearTable, number, Cases[0]).Entry, static_cast<std::size_t>(number));
-        EXPECT_EQ(Take_CenterEntry(centerTable, {number, number, 7, 0}), number);
-    }
-    EXPECT_EQ(nearTable.size() + centerTable.size(), 41U + 41U);
-    EXPECT_EQ(Take_CenterEntry(centerTable, {90, 4, 7, 0}), -1);
-    EXPECT_EQ(Centered_Place({1024, 0, 1024, 768}, {253, 77}), QPoint(1409, 345));
+TEST(NearPlacement, The_table_grows) {
+    std::vector<NearWindowEntry> table(21);
+    for (int number = 0; number < 22; ++number)
+        EXPECT_EQ(Place(table, number, Cases[0]).Entry, static_cast<std::size_t>(number));
+    EXPECT_EQ(table.size(), 41U);
 }
 
 } // namespace

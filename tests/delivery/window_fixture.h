@@ -3,9 +3,9 @@
 #pragma once
 
 #include "controls/unload_queue.h"
+#include "delivery/centered_windows.h"
 #include "delivery/important_rwin.h"
-#include "delivery/near_placement.h"
-#include "delivery/show_windows.h"
+#include "delivery/near_windows.h"
 #include "delivery_fixture.h"
 #include "settings/global_settings.h"
 #include "support/fake_desktop.h"
@@ -27,7 +27,7 @@ protected:
     ~WindowTest() override {
         Unload_ReminderWindows();
         Global_PendingUnloads.clear();
-        Init_ReminderWindows();
+        Init_MessageWinRoutines();
         Global_PlayerClass.reset();
     }
     std::int32_t Add_Typed(const QString& text, ReminderType type) {
@@ -41,11 +41,9 @@ protected:
         return Global_NearWindows[number].WorkForm;
     }
     static frmImportantRWin* Centered_Window() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            auto* found = qobject_cast<frmImportantRWin*>(window);
-            if (found != nullptr && found->IsCenteredWindow && !found->Is_Closed())
-                return found;
-        }
+        for (const CenterWindowEntry& entry : Global_CenterWindows)
+            if (entry.Used)
+                return entry.WorkForm;
         return nullptr;
     }
     static QString Text_Of(const QWidget* window) {

@@ -10,7 +10,7 @@ void Try(Ground& ground) {
     if (!Load_RA_Reminders(ground.file)) {
         return;
     }
-    Check_RA_Reminders([](std::int32_t) {});
+    Check_RA_Reminders([](const ReminderRef&) {});
     const std::size_t size = ground.Bytes().size();
     Must(Save_RA_Reminders(ground.file) && ground.Bytes().size() >= size);
     const auto queue = Global_RA_Reminders;

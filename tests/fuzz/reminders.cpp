@@ -10,7 +10,7 @@ void Try(Ground& ground) {
     }
     ReminderTick tick;
     for (int round = 0; round < 48; ++round) {
-        tick.Check([](std::int32_t) {});
+        tick.Check([](const ReminderRef&) {});
         ground.clock.Advance(1801000);
     }
     for (const ReminderSlot& slot : Global_Reminders) {

@@ -12,10 +12,11 @@
 #include "controls/tooltip_texts.h"
 #include "controls/wb_button.h"
 #include "core/reminder_store.h"
+#include "delivery/centered_windows.h"
 #include "delivery/frm_missed_reminders.h"
 #include "delivery/message_queue.h"
 #include "delivery/missed_reminders.h"
-#include "delivery/show_windows.h"
+#include "delivery/near_windows.h"
 #include "editors/list/card_list.h"
 #include "editors/list/frm_reminder_edit.h"
 #include "editors/list/reminder_edit.h"
@@ -202,8 +203,8 @@ TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_what_is_delivered) {
                 k, {true, FunctionType::OpenPage, 0, u"http://www.example.com"_s, u"Open page"_s});
         return slot;
     };
-    Show_NextToToolbar(add(ReminderType::NextToToolbar));
-    Show_Centered(add(ReminderType::Centered), OtherApplications::Leave);
+    Show_NextToToolbar(ReminderRef::Of_Slot(add(ReminderType::NextToToolbar)));
+    Show_Centered(ReminderRef::Of_Slot(add(ReminderType::Centered)));
     Look(u"reminder windows"_s);
     for (const TooltipText& text : Global_Tooltips) {
         The_frmTooltip().Set_Title(text.Title);
@@ -212,7 +213,7 @@ TEST_F(Layout, Nothing_is_cut_and_nothing_overlaps_in_what_is_delivered) {
         Look(u"tooltip"_s);
     }
     frmMissedReminders missed;
-    missed.Fill_List({{u"02/03/2026: Pay the rent"_s, 1, 1, 9000}});
+    missed.Fill_List({{u"02/03/2026: Pay the rent"_s, {}, 9000}});
     missed.Place_Window();
     missed.show();
     Look(u"missed reminders"_s);

@@ -5,7 +5,11 @@
 #include "controls/timers.h"
 #include "controls/transparency.h"
 #include "core/remind_again.h"
+#include "core/reminder_ref.h"
+#include "delivery/deliver.h"
+#include "delivery/important_rwin.h"
 #include "delivery/message_queue.h"
+#include "delivery/near_windows.h"
 #include "settings/global_settings.h"
 #include "support/fake_clock.h"
 #include "support/fake_desktop.h"
@@ -34,26 +38,27 @@ protected:
         Global_Autohide_Enabled = true;
         Global_Autohide_SelectedHideMode = -1;
         Global_Autohide_WaitTime = 5000;
+        Global_MessageLine = &form;
+        Global_Toolbar = &form;
+        Init_TimeRoutines();
+        Init_Reminders();
+        Init_RA_Reminders();
+        Init_MessageWinRoutines();
         Global_RA_Options = {5, 90};
-        Init_ToolbarMessages();
+        Global_Reminders[0] = {true, false, std::make_unique<ReminderClass>()};
+        Global_Reminders[0].Reminder->rs_Enabled = true;
         commands.Connect(ToolbarCommand::Unload, [this] { done << u"unload"_s; });
         form.Load_Window({100 * 15, 50 * 15, 333 * 15});
         form.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&form));
     }
     ~MainFormTest() override {
+        Unload_ReminderWindows();
+        Global_Toolbar = nullptr;
         Set_Program_Ending(false);
         Release_Transparency();
     }
 
-    MessageActions Actions() {
-        const auto log = [this](const QString& name) {
-            return [this, name](int index) { done << name + QString::number(index); };
-        };
-        return {log(u"ok "_s), log(u"today "_s), log(u"disable "_s), [this](int index, int option) {
-                    done << QString(u"again %1 %2"_s).arg(index).arg(option);
-                }};
-    }
     // A mouse event at a place of the screen.
     static void Mouse(QWidget* over, QEvent::Type type, QPoint place) {
         const bool isRelease = type == QEvent::MouseButtonRelease;
@@ -69,11 +74,19 @@ protected:
     }
     void Move_Cursor(int x, int y) { desktop.cursor = platform::Point{x, y}; }
     QRect Place() const { return form.geometry(); }
+    // Of the reminder in the first slot.
     void Put_Message_OnLine() {
         Global_ToolbarMessages[2] = {};
         Global_ToolbarMessages[2].Active = true;
-        Global_ToolbarMessages[2].ReminderID = 7;
+        Global_ToolbarMessages[2].Reminder = ReminderRef::Of_Slot(0);
         Global_CurrentMessage = 2;
+    }
+    // What became of the reminder.
+    static QString Answered() {
+        const ReminderClass& reminder = Global_Reminders[0].Reminder.Peek();
+        return (reminder.rs_Enabled ? u""_s : u"disabled "_s) +
+               (reminder.rs_DisabledForToday == 0 ? u""_s : u"not today "_s) +
+               (Global_RA_Last < 0 ? u""_s : u"again"_s);
     }
     // Runs what a user does while the next menu is open, then closes it.
     void While_MenuIsOpen(std::function<void(QMenu&)> work) {
@@ -117,5 +130,5 @@ protected:
     QStringList done;
     int menus = 0; // opened so far
     ToolbarCommands commands;
-    MainForm form{commands, Actions()};
+    MainForm form{commands};
 };

@@ -270,12 +270,14 @@ TEST_F(MainFormTest, A_right_click_on_the_line_opens_the_message_s_menu_and_hold
     EXPECT_EQ(seen, u"Ok, I got it|-|Remind me again in|-|Disable for today|-|Disable"_s);
     EXPECT_TRUE(paused);
     EXPECT_FALSE(Global_MessagePaused);
-    EXPECT_EQ(done, QStringList());
     for (const QString& entry : {u"Ok, I got it"_s, u"Disable for today"_s, u"Disable"_s}) {
+        EXPECT_EQ(Answered(), entry == u"Disable"_s ? u"not today "_s : u""_s);
+        Put_Message_OnLine();
         While_MenuIsOpen([&](QMenu& menu) { Pick(menu, entry); });
         QTest::mouseClick(form.Picture1, Qt::RightButton, {}, {20, 5});
+        EXPECT_LT(Global_ToolbarMessages[2].Day, 0) << "it ends with the next tick";
     }
-    EXPECT_EQ(done, (QStringList{u"ok 2"_s, u"today 2"_s, u"disable 2"_s}));
+    EXPECT_EQ(Answered(), u"disabled not today "_s);
 }
 
 TEST_F(MainFormTest, The_choices_of_minutes_hang_under_remind_me_again) {
@@ -290,54 +292,50 @@ TEST_F(MainFormTest, The_choices_of_minutes_hang_under_remind_me_again) {
         Pick(*choices, u"1 hour and 30 minutes"_s);
     });
     QTest::keyClick(form.Picture1, Qt::Key_Menu);
-    EXPECT_EQ(done, QStringList{u"again 2 1"_s});
+    EXPECT_EQ(Global_RA_Reminders[0].Minute, Get_CurrentMinute() + 90);
     Global_RA_Options.clear();
     While_MenuIsOpen([](QMenu& menu) { EXPECT_FALSE(menu.actions().at(2)->isEnabled()); });
     QTest::keyClick(form.Picture1, Qt::Key_Menu);
 }
 
 TEST_F(MainFormTest, A_reminder_s_window_has_the_menu_without_what_is_the_line_s_alone) {
-    auto caller = std::make_unique<frmImportantRWin>();
-    caller->ThisReminderID = 7;
+    const ReminderRef reminder = ReminderRef::Of_Slot(0);
+    Show_NextToToolbar(reminder);
+    QPointer<frmImportantRWin> caller = Global_NearWindows[0].WorkForm;
     OptionsMenu& container = form.Container();
     QString seen;
     While_MenuIsOpen([&](QMenu& menu) { seen = Entries(menu); });
-    container.Open_For_Window(*caller, 3, {20, 30});
-    EXPECT_EQ(seen.toStdString(), "~Remind me again in|-|~Disable for today|-|~Disable");
-
-    const auto log = [this](const QString& name) {
-        return [this, name](frmImportantRWin& served) {
-            done << name + QString::number(served.ThisReminderID);
-        };
-    };
-    form.Container().Serve_Windows({log(u"today "_s), log(u"disable "_s), {}});
-    While_MenuIsOpen([](QMenu& menu) { Pick(menu, u"Disable"_s); });
-    container.Open_For_Window(*caller, 3, {20, 30});
-    EXPECT_EQ(done, QStringList{u"disable 7"_s});
-    EXPECT_EQ(form.Container().wReminderListI, 3);
+    container.Open_For_Window(*caller, {20, 30});
+    EXPECT_EQ(seen.toStdString(), "Remind me again in|-|Disable for today|-|Disable");
     EXPECT_FALSE(Global_MessagePaused);
 
     const std::function<void()> ends[] = {
-        [&] { caller->ThisReminderID = 8; }, // went on to its next reminder
+        [&] { caller->UpdateWindow(ReminderRef::Of_Slot(1)); }, // went on to its next reminder
         [&] { Set_Program_Ending(true); },
-        [&] { caller.reset(); },
+        [&] { delete caller; },
     };
+    Global_Reminders[1] = {true, false, std::make_unique<ReminderClass>()};
     for (const auto& end : ends) {
+        caller->UpdateWindow(reminder);
         While_MenuIsOpen([&end](QMenu& menu) {
             end();
             Pick(menu, u"Disable"_s);
         });
-        container.Open_For_Window(*caller, 3, {20, 30});
+        container.Open_For_Window(*caller, {20, 30});
         Set_Program_Ending(false);
     }
-    EXPECT_EQ(done.size(), 1);
+    EXPECT_EQ(Answered(), u""_s);
+    Show_NextToToolbar(reminder);
+    While_MenuIsOpen([](QMenu& menu) { Pick(menu, u"Disable"_s); });
+    container.Open_For_Window(*Global_NearWindows[0].WorkForm, {20, 30});
+    EXPECT_EQ(Answered(), u"disabled "_s);
 }
 
 TEST_F(MainFormTest, A_menu_does_nothing_for_a_message_or_a_program_that_has_ended_meanwhile) {
     form.Picture1->setFocus();
     const std::pair<const char*, std::function<void()>> ends[] = {
         {"message gone", [] { Global_CurrentMessage = -1; }},
-        {"slot taken by another", [] { Global_ToolbarMessages[2].ReminderID = 8; }},
+        {"slot taken by another", [] { Global_ToolbarMessages[2].Reminder = {}; }},
         {"tables made anew", [] { Init_ToolbarMessages(); }},
         {"program ending", [] { Set_Program_Ending(true); }},
     };
@@ -348,7 +346,7 @@ TEST_F(MainFormTest, A_menu_does_nothing_for_a_message_or_a_program_that_has_end
             Pick(menu, u"Disable"_s);
         });
         QTest::keyClick(form.Picture1, Qt::Key_Menu);
-        EXPECT_EQ(done, QStringList()) << name;
+        EXPECT_EQ(Answered(), QString()) << name;
         EXPECT_FALSE(Global_MessagePaused) << name;
     }
     EXPECT_EQ(menus, 4);

@@ -60,8 +60,7 @@ void Add_Line(QWidget* form, const QRect& place, QFrame::Shape shape) {
 
 void frmWizard::Add_Frame() {
     setFixedSize(FormWidth, FormHeight);
-    const QPoint middle(FormWidth / 2, FormHeight / 2);
-    move(The_Screen().center() - middle);
+    move(Centered_In(The_Screen(), size()));
     auto* banner = new QWidget(this);
     banner->setGeometry(0, 0, FormWidth, BannerHeight);
     banner->setAutoFillBackground(true);

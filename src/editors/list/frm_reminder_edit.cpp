@@ -550,8 +550,7 @@ void frmReminderEdit::Test_Click() {
     if (Selected_Reminder() == nullptr || !Save_View_To_Reminder(CategoryOnSave::Keep) ||
         Program_Is_Ending())
         return;
-    if (const std::int32_t slot = selection.Slot(); slot != -1)
-        Deliver_Reminder(slot);
+    Deliver_Reminder(selection);
 }
 
 void frmReminderEdit::Save_SelectedIcon() {

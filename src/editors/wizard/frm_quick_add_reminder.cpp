@@ -241,7 +241,7 @@ bool frmQuickAddReminder::Apply(BadValues bad) {
 
 void frmQuickAddReminder::Test_Click() {
     if (Apply(BadValues::Report))
-        Deliver_Reminder(pending.Slot());
+        Deliver_Reminder(pending);
 }
 
 void frmQuickAddReminder::Accept_Click() {
