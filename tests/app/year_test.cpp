@@ -18,6 +18,7 @@
 #include "links/store/links_data.h"
 #include "notes/frm_notes_editor.h"
 #include "notes/notes_store.h"
+#include "platform/providers.h"
 #include "settings/global_settings.h"
 #include "support/fake_system.h"
 #include "toolbar/main_form.h"
@@ -26,7 +27,9 @@
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPixmapCache>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -47,6 +50,13 @@ public:
     bool Exists(const QString& path) override {
         return path.startsWith(Sounds) || FakeFiles::Exists(path);
     }
+    // Without a list of what was written: a thread saves.
+    bool Replace(const QString& path, const std::string& content) override {
+        return disk->Replace(path, content);
+    }
+
+private:
+    std::unique_ptr<platform::Files> disk = platform::Make_Files();
 };
 
 // Each reminder has a sound of its own: what was opened has fired.
@@ -126,8 +136,7 @@ protected:
     Year() {
         system.clock.Set(day.year(), day.month(), day.day(), 0, 0, 0);
         EXPECT_TRUE(QDir().mkpath(system.paths.Program_Folder() + "/User-1"_L1));
-        system.files.Replace(system.paths.Program_Folder() + "/User-1/reminders.dat"_L1,
-                             std::string("RSaveFile001\0\0\0\0", 16));
+        system.files.Replace(table, std::string("RSaveFile001\0\0\0\0", 16));
         system.files.Replace(system.paths.Shipped_Folder() + "/tooltips.txt"_L1,
                              "[0] Help\r\nText");
         EXPECT_TRUE(program.Load());
@@ -354,7 +363,6 @@ protected:
     Size Measure() {
         Let_GoWhatIsClosed();
         system.windows.windows.clear();
-        system.files.replaced.clear();
         system.dialogs.shown.clear();
         Size size;
         size.heap = mallinfo2().uordblks;
@@ -369,15 +377,18 @@ protected:
             }
         }
         size.timers += static_cast<qsizetype>(system.clock.Waiting());
+        return size;
+    }
+    void Print(const Size& size) const {
         std::printf("%s: heap %zu KB, resident %zu KB, %d handles, %d timers, %d widgets\n",
                     day.toString(Qt::ISODate).toLatin1().data(), size.heap / 1024, size.resident,
                     int(size.handles), int(size.timers), int(size.widgets));
-        return size;
     }
 
     QDate day{2028, 2, 20}; // before a 29 February
     FakeSystem system;
     SoundFiles files;
+    const QString table = system.paths.Program_Folder() + "/User-1/reminders.dat"_L1;
     Listener media;
     Application program;
     std::mt19937 dice{11};
@@ -420,18 +431,21 @@ TEST_F(Year, What_Fires_Is_What_The_Calendar_Says_And_Nothing_Grows) {
                 Open_EveryWindow();
             }
         }
-        if (count == 2 || count == days / 2 || count == days - 1) {
-            const Size size = Measure();
-            if (count < days - 1) {
-                begin = size; // by half of the time all reminders have fired that ever will
-                continue;
-            }
-            EXPECT_LT(size.heap, begin.heap + (512U << 10U));
-            EXPECT_LE(size.handles, begin.handles);
-            EXPECT_LE(size.timers, begin.timers);
-            EXPECT_LE(size.widgets, begin.widgets);
+        if (count == days / 2) {
+            // By now all have fired that fire at all; what is kept of a saved table counts as well.
+            ASSERT_TRUE(QTest::qWaitFor([this] { return QFileInfo(table).size() > 100'000; }));
+            begin = Measure();
+            Print(begin);
         }
     }
+    // A save that is under way comes to its end.
+    Size end;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        end = Measure();
+        return end.heap < begin.heap + (512U << 10U) && end.handles <= begin.handles &&
+               end.timers <= begin.timers && end.widgets <= begin.widgets;
+    }));
+    Print(end);
     const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - start;
     std::printf("%d days in %.0f s: %zu fired, %zu sent away, %zu reminders made\n", days,
                 spent.count(), fired, away, plans.size());
