@@ -3,13 +3,11 @@
 #include "accessories/help/help.h"
 #include "controls/combo_box.h"
 #include "controls/combo_name.h"
-#include "controls/cool_tab.h"
 #include "controls/field_word.h"
 #include "controls/help_topic.h"
 #include "controls/icons.h"
 #include "controls/painting.h"
 #include "controls/program_end.h"
-#include "controls/text_fields.h"
 #include "controls/the_screen.h"
 #include "controls/tooltip_picture.h"
 #include "controls/wb_button.h"
@@ -17,13 +15,8 @@
 #include "delivery/deliver.h"
 #include "editors/list/card_list.h"
 #include "editors/list/copy_buffer.h"
-#include "editors/list/frm_re_function_edit.h"
 #include "editors/list/list_rules.h"
-#include "editors/list/message_page.h"
-#include "editors/list/misc_page.h"
-#include "editors/list/sound_page.h"
-#include "editors/pages/date_page.h"
-#include "editors/pages/hour_page.h"
+#include "editors/list/record_pages.h"
 #include "platform/dialogs.h"
 
 #include <QEvent>
@@ -56,8 +49,7 @@ constexpr int LeastTop = 22; // below a toolbar at the top
 constexpr int FrameHeight = 30;
 
 constexpr int Tip_List = 20;
-constexpr int ErrorShapeTime = 10000; // ms
-constexpr int RefreshTime = 60000;
+constexpr int RefreshTime = 60000; // ms
 
 const QString nothingSelected = u"Click on a reminder in the list first."_s;
 
@@ -81,12 +73,6 @@ frmReminderEdit::frmReminderEdit() : filter(FilterAll) {
     Update_Filter(FilterText::Reset);
     UpdateReminderView();
     shownDay = Get_TodayDay();
-    hideErrorShapeTimer.setInterval(ErrorShapeTime);
-    connect(&hideErrorShapeTimer, &QTimer::timeout, this, [this] {
-        if (!platform::Dialogs::Get().Holds_Timers())
-            Hide_ErrorShapes();
-    });
-    hideErrorShapeTimer.start();
     refreshTimer.setInterval(RefreshTime);
     connect(&refreshTimer, &QTimer::timeout, this, &frmReminderEdit::RefreshTimer_Tick);
 }
@@ -107,7 +93,8 @@ void frmReminderEdit::Build_List(int listHeight) {
         Filter_Chosen();
     });
     connect(cards, &CardList::Card_Chosen, this, &frmReminderEdit::Select_Reminder);
-    connect(cards, &CardList::Text_Changed, this, &frmReminderEdit::Text_Typed);
+    connect(cards, &CardList::Text_Changed, this,
+            [this](const QString& text) { pages->Set_Text(text); });
     connect(cards, &CardList::Enabled_Changed, this, &frmReminderEdit::Row_Enabled_Changed);
     // A key acts on the card that wears the frame: it is selected first.
     connect(cards, &CardList::Delete_Pressed, this, [this](const ReminderRef& reminder) {
@@ -153,30 +140,20 @@ void frmReminderEdit::Build_Buttons(int top) {
 }
 
 void frmReminderEdit::Build_Pages() {
-    tabs = new CoolTab(this);
-    tabs->setGeometry(PageLeft, TabTop, PageWidth, PageTop - TabTop - 1);
-    tabs->Set_Tabs(u"-1;Date Setup;-1;Hours Setup;-1;Message;-1;Sound;-1;Misc"_s);
-    tabs->setAccessibleName(u"Pages of the reminder"_s);
-    tabs->Select(static_cast<int>(currentPage));
-    pages = {datePage = new DatePage(*this, this), hourPage = new HourPage(*this, this),
-             messagePage = new MessagePage(this), soundPage = new SoundPage(this),
-             miscPage = new MiscPage(*this, this)};
-    for (ReminderPage* page : pages) {
-        page->setGeometry(PageLeft, PageTop, PageWidth, PageHeight);
-        page->hide();
-    }
-    connect(tabs, &CoolTab::TabSelected, this,
-            [this](int tab) { Set_CurrentPage(static_cast<EditPage>(tab)); });
-    connect(datePage, &DatePage::NextRun_Changed, cards, &CardList::Set_SelectedNextRun);
-    connect(hourPage, &HourPage::Condition_Added, this,
-            [this](const HourSetup& condition) { refused.Condition_Added(condition); });
-    connect(messagePage, &MessagePage::Title_Changed, this, &frmReminderEdit::Title_Typed);
-    connect(messagePage, &MessagePage::Text_Changed, this, &frmReminderEdit::Text_Typed);
-    connect(messagePage, &MessagePage::Function_Enabled, this, &frmReminderEdit::Function_Enabled);
-    connect(messagePage, &MessagePage::Edit_Function, this, &frmReminderEdit::Edit_Function);
-    connect(miscPage, &MiscPage::Icon_Chosen, cards, &CardList::Set_SelectedIcon);
-    connect(miscPage, &MiscPage::Icons_Changed, cards, &CardList::Refresh_Row_Icons);
-    connect(miscPage, &MiscPage::Category_Deleted, this, [this] {
+    pages = new RecordPages(this, {PageLeft, TabTop, PageWidth, PageTop - TabTop - 1},
+                            {PageLeft, PageTop, PageWidth, PageHeight});
+    connect(pages, &RecordPages::Title_Changed, this, [this](const QString& title) {
+        if (CardView* card = cards->Card_Of(Selection()))
+            card->Set_Title(title);
+    });
+    connect(pages, &RecordPages::Text_Changed, this, [this](const QString& text) {
+        if (CardView* card = cards->Card_Of(Selection()))
+            card->Set_Text(text);
+    });
+    connect(pages, &RecordPages::NextRun_Changed, cards, &CardList::Set_SelectedNextRun);
+    connect(pages, &RecordPages::Icon_Chosen, cards, &CardList::Set_SelectedIcon);
+    connect(pages, &RecordPages::Icons_Changed, cards, &CardList::Refresh_Row_Icons);
+    connect(pages, &RecordPages::Category_Deleted, this, [this] {
         Update_Filter(FilterText::Reset);
         // The reminder stays selected; its pages are not loaded again.
         Refresh_View();
@@ -184,16 +161,12 @@ void frmReminderEdit::Build_Pages() {
 }
 
 void frmReminderEdit::Add_Shortcuts() {
-    const auto Turn_Page = [this](int step) {
-        const int page = (static_cast<int>(currentPage) + step + EditPageCount) % EditPageCount;
-        Show_Page(static_cast<EditPage>(page));
-    };
     const auto Add = [this](QKeyCombination keys, auto action) {
         connect(new QShortcut(QKeySequence(keys), this), &QShortcut::activated, this, action);
     };
     Add(Qt::CTRL | Qt::Key_N, &frmReminderEdit::New_Click);
-    Add(Qt::CTRL | Qt::Key_Tab, [Turn_Page] { Turn_Page(1); });
-    Add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [Turn_Page] { Turn_Page(-1); });
+    Add(Qt::CTRL | Qt::Key_Tab, [this] { pages->Turn_Page(1); });
+    Add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { pages->Turn_Page(-1); });
 }
 
 void frmReminderEdit::Place_OnScreen() {
@@ -210,8 +183,12 @@ void frmReminderEdit::paintEvent(QPaintEvent*) {
 
 // Which reminder is selected.
 
+const ReminderRef& frmReminderEdit::Selection() const {
+    return pages->Shown();
+}
+
 int frmReminderEdit::SelectedRow() const {
-    return cards->Row_Of(selection);
+    return cards->Row_Of(Selection());
 }
 
 void frmReminderEdit::UpdateReminderView() {
@@ -239,25 +216,20 @@ void frmReminderEdit::Select_Reminder(const ReminderRef& target) {
         Refresh_View();
         return;
     }
-    if (wanted == selection)
+    if (wanted == Selection())
         return;
     if (Selected_Reminder() != nullptr) {
-        Hide_Popups();
+        pages->Hide_Popups();
         if (!Save_View_To_Reminder(CategoryOnSave::Take) || Program_Is_Ending())
             return;
-        if (categoryChanged) {
+        if (pages->Category_Changed()) {
             Update_Filter(FilterText::Keep);
             UpdateReminderView();
         }
     }
-    selection = wanted;
-    refused.Save_Done();
-    cards->Set_Selected(selection);
-    Hide_ErrorShapes();
-    Load_Reminder_To_View();
-    if (Selected_Reminder() != nullptr)
-        Set_CurrentPage(currentPage);
-    else
+    cards->Set_Selected(wanted);
+    pages->Show_Record(wanted);
+    if (Selected_Reminder() == nullptr)
         Refresh_View();
 }
 
@@ -266,25 +238,21 @@ bool frmReminderEdit::Is_SelectedNow(const ReminderRef& target) {
     if (!wanted.Is_Set())
         return false;
     Select_Reminder(wanted);
-    return selection == wanted && Selected_Reminder() != nullptr && !Program_Is_Ending();
+    return Selection() == wanted && Selected_Reminder() != nullptr && !Program_Is_Ending();
 }
 
 void frmReminderEdit::Show_NewCard(const ReminderRef& added) {
     UpdateReminderView();
     const int row = cards->Row_Of(added);
-    if (selection.Is_Set())
+    if (Selection().Is_Set())
         cards->Bring_IntoView(row);
     else
         cards->Set_CurrentRow(row);
 }
 
 void frmReminderEdit::Drop_Selection() {
-    selection = {};
-    refused.Save_Done();
     cards->Set_Selected({});
-    Hide_Popups();
-    for (ReminderPage* page : pages)
-        page->hide();
+    pages->Clear();
 }
 
 void frmReminderEdit::Update_Filter(FilterText text) {
@@ -296,7 +264,7 @@ void frmReminderEdit::Update_Filter(FilterText text) {
         filterBox->clear();
         filterBox->addItems(QStringList{FilterAll, FilterNone} + names);
         filterBox->setCurrentIndex(std::max(0, filterBox->findText(before, Qt::MatchFixedString)));
-        miscPage->Set_Categories(names);
+        pages->Set_Categories(names);
     }
     if (text == FilterText::Reset)
         filterBox->setCurrentIndex(0);
@@ -323,7 +291,7 @@ void frmReminderEdit::Filter_Chosen() {
 void frmReminderEdit::Refresh_View() {
     if (Is_Unloading())
         return;
-    if (selection.Is_Set() && selection.Slot() == -1)
+    if (Selection().Is_Set() && Selection().Slot() == -1)
         Drop_Selection();
     Update_Filter(FilterText::Keep);
     UpdateReminderView();
@@ -335,125 +303,20 @@ void frmReminderEdit::RefreshTimer_Tick() {
     Refresh_View();
     const Day today = Get_TodayDay();
     if (today != shownDay)
-        datePage->Update_NextRun();
+        pages->Update_NextRun();
     shownDay = today;
 }
 
-// The pages of the selected reminder.
-
-void frmReminderEdit::Show_Page(EditPage page) {
-    tabs->Select(static_cast<int>(page));
-    Set_CurrentPage(page);
-}
-
-void frmReminderEdit::Set_CurrentPage(EditPage page) {
-    currentPage = page;
-    if (Selected_Reminder() == nullptr)
-        return;
-    for (ReminderPage* other : pages)
-        if (other != Page(page))
-            other->Hide_Popup();
-    if (page != EditPage::Message && functionEdit != nullptr)
-        functionEdit->Unload();
-    Page(page)->show();
-    for (ReminderPage* other : pages)
-        if (other != Page(page))
-            other->hide();
-}
-
-void frmReminderEdit::Hide_Popups() {
-    for (ReminderPage* page : pages)
-        page->Hide_Popup();
-    if (functionEdit != nullptr)
-        functionEdit->Unload();
-}
-
-void frmReminderEdit::Hide_ErrorShapes() {
-    for (ReminderPage* page : pages)
-        page->Hide_Marks();
-}
-
-void frmReminderEdit::Load_Reminder_To_View() {
-    const ReminderClass* reminder = selection.Peek();
-    if (reminder == nullptr)
-        return;
-    const ReminderClass record = *reminder;
-    for (ReminderPage* page : pages)
-        if (page != datePage)
-            page->Load(record);
-    // Last: it may show a box, under which the reminder can go.
-    datePage->Load(record);
-}
-
 bool frmReminderEdit::Save_View_To_Reminder(CategoryOnSave category) {
-    return Save_View(category, ShowErrors::Yes);
-}
-
-// The first field at fault ends the save.
-bool frmReminderEdit::Save_View(CategoryOnSave category, ShowErrors show) {
-    ReminderClass* reminder = Selected_Reminder();
-    if (reminder == nullptr)
-        return true;
-    refused.Save_Begins(selection);
-    datePage->Update_NextRun();
-    const QString before = reminder->rs_Category;
-    for (int number = 0; number < EditPageCount; ++number) {
-        const auto page = static_cast<EditPage>(number);
-        const QString fault = Page(page)->Store(*reminder);
-        if (fault.isEmpty())
-            continue;
-        refused.Save_Refused(page);
-        if (show == ShowErrors::Yes)
-            Show_Fault(page, fault);
-        return false;
-    }
-    if (category == CategoryOnSave::Keep)
-        reminder->rs_Category = before;
-    categoryChanged = reminder->rs_Category != before;
-    Sync_CategoriesFromReminders();
-    refused.Save_Done();
-    return true;
-}
-
-void frmReminderEdit::Show_Fault(EditPage page, const QString& fault) {
-    const QPointer<frmReminderEdit> alive(this);
-    platform::Dialogs::Get().Message(fault, platform::BoxStyle::Exclamation);
-    if (!alive)
-        return;
-    Show_Page(page);
-    Page(page)->Mark_Fault();
-    hideErrorShapeTimer.start();
+    return pages->Save(category);
 }
 
 bool frmReminderEdit::Store_OpenPage() {
-    if (Save_View(CategoryOnSave::Take, ShowErrors::No))
-        return true;
-    refused.Restore(selection);
-    return false;
+    return pages->Store_Open();
 }
 
 void frmReminderEdit::Restore_RefusedPage() {
-    refused.Restore(selection);
-}
-
-void frmReminderEdit::Title_Typed(const QString& title) {
-    ReminderClass* reminder = Selected_Reminder();
-    if (reminder == nullptr)
-        return;
-    reminder->rs_Title = title;
-    if (CardView* card = cards->Card_Of(selection))
-        card->Set_Title(title);
-}
-
-// On the card or on the page: the other one follows.
-void frmReminderEdit::Text_Typed(const QString& text) {
-    ReminderClass* reminder = Selected_Reminder();
-    if (reminder == nullptr)
-        return;
-    reminder->rs_Text = Text_ForRecord(text, reminder->rs_Text);
-    messagePage->Set_Text(text);
-    if (CardView* card = cards->Card_Of(selection))
-        card->Set_Text(text);
+    pages->Restore_Refused();
 }
 
 void frmReminderEdit::Row_Enabled_Changed(const ReminderRef& changed, bool ticked) {
@@ -465,31 +328,6 @@ void frmReminderEdit::Row_Enabled_Changed(const ReminderRef& changed, bool ticke
     Refresh_View();
 }
 
-void frmReminderEdit::Function_Enabled(int k, bool on) {
-    ReminderClass* reminder = Selected_Reminder();
-    if (reminder == nullptr)
-        return;
-    FunctionEntry entry = reminder->GetFuncion(k);
-    entry.Enabled = on;
-    reminder->SetFuncion(k, entry);
-}
-
-void frmReminderEdit::Edit_Function(int k) {
-    if (Selected_Reminder() == nullptr)
-        return;
-    if (functionEdit == nullptr || functionEdit->Is_Unloading()) {
-        functionEdit = new frmRE_FunctionEdit(this);
-        connect(functionEdit, &frmRE_FunctionEdit::Function_Changed, this,
-                [this](const ReminderRef& changed) {
-                    const ReminderClass* reminder = selection.Peek();
-                    if (reminder != nullptr && changed == selection)
-                        messagePage->Show_Functions(*reminder);
-                });
-    }
-    functionEdit->Edit(selection, k);
-    functionEdit->Present();
-}
-
 // The buttons below the list.
 
 // The new reminder is not selected: the pages stay with the one that is.
@@ -499,12 +337,12 @@ void frmReminderEdit::New_Click() {
 }
 
 void frmReminderEdit::Delete_Click() {
-    const ReminderClass* reminder = selection.Peek();
+    const ReminderClass* reminder = Selection().Peek();
     if (reminder == nullptr) {
         Say_AtField(deleteButton, nothingSelected);
         return;
     }
-    const ReminderRef doomed = selection;
+    const ReminderRef doomed = Selection();
     const platform::Answer answer = platform::Dialogs::Get().Question(
         Delete_Question(*reminder, Read_Moment()), false, {.Title = u"Confirm"_s});
     if (answer != platform::Answer::Yes || Program_Is_Ending())
@@ -516,11 +354,11 @@ void frmReminderEdit::Delete_Click() {
 }
 
 void frmReminderEdit::Copy_Click() {
-    if (selection.Peek() == nullptr)
+    if (Selection().Peek() == nullptr)
         Say_AtField(copyButton, nothingSelected);
     if (!Save_View_To_Reminder(CategoryOnSave::Take))
         return;
-    const ReminderClass* reminder = selection.Peek();
+    const ReminderClass* reminder = Selection().Peek();
     if (reminder != nullptr && !Write_CopyBuffer(*reminder))
         platform::Dialogs::Get().Message(u"The reminder can't be copied: the file \"temp.dat\" "
                                          "can't be written"_s,
@@ -545,17 +383,17 @@ void frmReminderEdit::Paste_Click() {
 }
 
 void frmReminderEdit::Test_Click() {
-    if (selection.Peek() == nullptr)
+    if (Selection().Peek() == nullptr)
         Say_AtField(runButton, nothingSelected);
     if (Selected_Reminder() == nullptr || !Save_View_To_Reminder(CategoryOnSave::Keep) ||
         Program_Is_Ending())
         return;
-    Deliver_Reminder(selection);
+    Deliver_Reminder(Selection());
 }
 
 void frmReminderEdit::Save_SelectedIcon() {
     if (ReminderClass* reminder = Selected_Reminder())
-        reminder->rs_Icon = miscPage->Icon_Name().toLower();
+        reminder->rs_Icon = pages->Icon_Name().toLower();
 }
 
 // The window.
@@ -566,10 +404,7 @@ bool frmReminderEdit::Query_Unload(UnloadMode mode) {
 }
 
 void frmReminderEdit::On_Unload() {
-    Hide_Popups();
-    hourPage->Unload_Popup();
-    soundPage->Stop_Sound();
-    hideErrorShapeTimer.stop();
+    pages->Unload();
     refreshTimer.stop();
 }
 

@@ -5,26 +5,18 @@
 #pragma once
 
 #include "controls/form.h"
-#include "editors/list/refused_save.h"
+#include "core/reminder_ref.h"
 #include "editors/pages/reminder_page.h"
 
-#include <QPointer>
+#include <QStringList>
 #include <QTimer>
-
-#include <array>
 
 class CardList;
 class ComboBox;
-class CoolTab;
-class DatePage;
-class frmRE_FunctionEdit;
-class HourPage;
-class MessagePage;
-class MiscPage;
-class SoundPage;
+class RecordPages;
 class wbButton;
 
-class frmReminderEdit : public Form, public EditHost {
+class frmReminderEdit : public Form {
     Q_OBJECT
 public:
     frmReminderEdit();
@@ -39,8 +31,10 @@ public:
     bool Store_OpenPage();
     void Restore_RefusedPage();
 
-    ReminderClass* Selected_Reminder() override { return selection.Get(); }
-    bool Save_View_To_Reminder(CategoryOnSave category) override;
+    // Null without a selection. The reminder may be gone after anything that pumped events.
+    ReminderClass* Selected_Reminder() const { return Selection().Get(); }
+    // True: saved, or nothing is selected.
+    bool Save_View_To_Reminder(CategoryOnSave category);
     // Row of the selected card; -1 = none, or its card is filtered away.
     int SelectedRow() const;
 
@@ -53,7 +47,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    enum class ShowErrors { No, Yes };
     enum class FilterText { Reset, Keep };
 
     void Build_List(int listHeight);
@@ -62,7 +55,7 @@ private:
     void Add_Shortcuts();
     void Place_OnScreen();
 
-    // Selection.
+    const ReminderRef& Selection() const;
     void Select_Reminder(const ReminderRef& target);
     // Selects it if it is not; false: the selection stays with another, or none.
     bool Is_SelectedNow(const ReminderRef& target);
@@ -72,20 +65,6 @@ private:
     void Update_Filter(FilterText text);
     void Filter_Chosen();
     void RefreshTimer_Tick();
-
-    // The pages.
-    ReminderPage* Page(EditPage page) const { return pages[static_cast<std::size_t>(page)]; }
-    void Show_Page(EditPage page);
-    void Set_CurrentPage(EditPage page);
-    void Hide_Popups();
-    void Hide_ErrorShapes();
-    void Load_Reminder_To_View();
-    bool Save_View(CategoryOnSave category, ShowErrors show);
-    void Show_Fault(EditPage page, const QString& fault);
-    void Title_Typed(const QString& title);
-    void Text_Typed(const QString& text);
-    void Function_Enabled(int k, bool on);
-    void Edit_Function(int k);
     void Row_Enabled_Changed(const ReminderRef& reminder, bool ticked);
 
     // The buttons of the list.
@@ -96,27 +75,14 @@ private:
     void Test_Click();
     void Save_SelectedIcon();
 
-    ReminderRef selection;
-    RefusedSave refused;
     QString filter;         // the category that the list shows
     QStringList shownNames; // categories in the boxes
-    bool categoryChanged = false;
     Day shownDay = 0;
-    EditPage currentPage = EditPage::DateSetup;
-
     ComboBox* filterBox = nullptr;
     CardList* cards = nullptr;
     wbButton* deleteButton = nullptr;
     wbButton* copyButton = nullptr;
     wbButton* runButton = nullptr;
-    CoolTab* tabs = nullptr;
-    DatePage* datePage = nullptr;
-    HourPage* hourPage = nullptr;
-    MessagePage* messagePage = nullptr;
-    SoundPage* soundPage = nullptr;
-    MiscPage* miscPage = nullptr;
-    std::array<ReminderPage*, EditPageCount> pages{}; // by EditPage
-    QPointer<frmRE_FunctionEdit> functionEdit;
-    QTimer hideErrorShapeTimer;
+    RecordPages* pages = nullptr;
     QTimer refreshTimer{this};
 };
