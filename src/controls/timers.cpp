@@ -34,7 +34,7 @@ std::size_t Index_Of(TimerName timer) {
 
 bool Held_ByBox(TimerName timer) {
     return Global_TimerTable[Index_Of(timer)].Box == UnderBox::Rests &&
-           platform::Dialogs::Is_Provided() && platform::Dialogs::Get().Holds_Timers();
+           platform::Dialogs::Get().Holds_Timers();
 }
 
 } // namespace

@@ -19,12 +19,6 @@ std::size_t At(std::int32_t index) {
     return static_cast<std::size_t>(index);
 }
 
-void Apply_Alpha(platform::WindowId window, std::int16_t alpha) {
-    if (platform::Windows::Is_Provided()) {
-        platform::Windows::Get().Set_Alpha(window, alpha);
-    }
-}
-
 } // namespace
 
 TransparencyClass& Global_Transparency() {
@@ -101,7 +95,7 @@ void TransparencyClass::AddHWNDtoList(QWidget* form, FadeDirection direction,
     const std::int16_t alpha = record.Fade.CurrentAlpha;
 
     const std::int32_t before = clock.Milliseconds();
-    Apply_Alpha(hWnd, alpha);
+    platform::Windows::Get().Set_Alpha(hWnd, alpha);
     if (direction == FadeDirection::In) {
         Show_BesideMenus(*form);
     }
@@ -132,13 +126,13 @@ void TransparencyClass::DeleteHWNDfromList(platform::WindowId hWnd, Layering lay
             record.WorkForm->Hide_Form();
         }
     }
-    if (layering == Layering::Remove && form && platform::Windows::Is_Provided()) {
+    if (layering == Layering::Remove && form) {
         platform::Windows::Get().Clear_Alpha(hWnd);
     }
 }
 
 void TransparencyClass::Enable_TC_Timer() {
-    if (LastIndex >= 0 && !Running && Global_Timers != nullptr) {
+    if (LastIndex >= 0 && !Running) {
         Global_Timers->Enable(TimerName::TransHandlerTimer);
     }
 }
@@ -161,7 +155,7 @@ void TransparencyClass::Fade_AStep() {
         if (!Fade_Is_Over(record.Fade,
                           platform::Clock::Get().Milliseconds_Since(record.StartTime))) {
             if (record.StandardForm) {
-                Apply_Alpha(record.hWnd, record.Fade.CurrentAlpha);
+                platform::Windows::Get().Set_Alpha(record.hWnd, record.Fade.CurrentAlpha);
             }
             ++i;
             continue;

@@ -17,8 +17,7 @@ bool WindowShadows::eventFilter(QObject* watched, QEvent* event) {
     }
     const auto* window = static_cast<QWidget*>(watched);
     // Menus and lists have what the toolkit gives them.
-    if (window->isWindow() && window->windowType() != Qt::Popup && Global_IsWinXP &&
-        platform::Windows::Is_Provided()) {
+    if (window->isWindow() && window->windowType() != Qt::Popup && Global_IsWinXP) {
         platform::Windows::Get().Set_Shadow(window->winId(), Global_UseShadows);
     }
     return false;

@@ -5,6 +5,7 @@
 #include "core/reminder_store.h"
 #include "editors/wizard/quick_add_rules.h"
 #include "support/fake_clock.h"
+#include "support/scripted_dialogs.h"
 
 #include <gtest/gtest.h>
 
@@ -64,6 +65,7 @@ protected:
 
     std::mt19937 dice{7};
     FakeClock clock;
+    ScriptedDialogs dialogs;
     Timers timers;
     std::vector<std::int32_t> fired;
     int changes = 0;

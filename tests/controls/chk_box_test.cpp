@@ -42,16 +42,6 @@ TEST_F(ChkBoxTest, Frame_tick_and_label_act_as_one_and_a_slide_off_does_nothing)
     EXPECT_EQ(log, u"+-+"_s);
 }
 
-TEST_F(ChkBoxTest, The_frame_moves_a_pixel_right_and_down_while_it_is_pressed) {
-    const QRect before = box->Frame_Rect();
-    QTest::mousePress(box, Qt::LeftButton, {}, QPoint(6, 6));
-    EXPECT_EQ(box->Frame_Rect(), before.translated(1, 1));
-    const QImage pressed = box->grab().toImage();
-    EXPECT_EQ(pressed.pixelColor(box->Frame_Rect().bottomRight()), QColor(0, 0, 0));
-    QTest::mouseRelease(box, Qt::LeftButton, {}, QPoint(-1, 6));
-    EXPECT_EQ(box->Frame_Rect(), before);
-}
-
 TEST_F(ChkBoxTest, A_blocked_box_loses_its_tick_and_takes_no_input_until_it_is_free_again) {
     box->Set_Ticked(true);
     box->Set_Blocked(true);

@@ -28,23 +28,6 @@ TEST(FadeRules, The_step_grows_with_what_the_updates_cost) {
     }
 }
 
-TEST(FadeRules, A_fade_is_over_at_its_target_or_when_its_time_is_up) {
-    struct Case {
-        FadeDirection direction;
-        std::int16_t alpha;
-        std::int32_t passed; // ms
-        bool isOver;
-    };
-    const Case cases[] = {
-        {FadeDirection::In, 254, 600, false}, {FadeDirection::In, 255, 0, true},
-        {FadeDirection::In, 20, 601, true},   {FadeDirection::Out, 1, 600, false},
-        {FadeDirection::Out, 0, 0, true},     {FadeDirection::Out, 200, 601, true},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(Fade_Is_Over({c.alpha, c.direction}, c.passed), c.isOver) << c.alpha;
-    }
-}
-
 class Transparency : public testing::Test {
 protected:
     Transparency() { Global_Timers = &timers; }

@@ -12,14 +12,6 @@ constexpr int QuickRepeat = 200; // ms
 constexpr int QuickestStep = 51;
 constexpr int RepeatStep = 10;
 
-std::optional<int> Part_Of(QStringView text, int limit) {
-    bool isNumber = false;
-    const int number = text.trimmed().toInt(&isNumber);
-    if (!isNumber || number < 0 || number > limit)
-        return std::nullopt;
-    return number;
-}
-
 } // namespace
 
 ClockTime To_ClockTime(int minutesValue) {
@@ -58,15 +50,6 @@ std::optional<int> Read_Box(const QString& text, int limit) {
 
 QString Two_Digits(int number) {
     return u"%1"_s.arg(number, 2, 10, QLatin1Char('0'));
-}
-
-std::optional<int> Read_Time(const QString& text) {
-    const qsizetype colon = text.indexOf(u':');
-    if (colon < 0)
-        return std::nullopt;
-    const auto hour = Part_Of(QStringView(text).left(colon), LastHour);
-    const auto minute = Part_Of(QStringView(text).mid(colon + 1), LastMinute);
-    return hour && minute ? std::optional(To_MinutesValue({*hour, *minute})) : std::nullopt;
 }
 
 int Next_RepeatInterval(int interval) {

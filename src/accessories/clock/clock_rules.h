@@ -32,8 +32,6 @@ Stepped Step_Time(ClockTime time, StepButton button);
 // What a box says, held within 0..limit; nothing for what is no number.
 std::optional<int> Read_Box(const QString& text, int limit);
 QString Two_Digits(int number);
-// "hh:mm" as minutes since midnight; nothing for anything else.
-std::optional<int> Read_Time(const QString& text);
 
 // Milliseconds until the repeat after the next one of a held button.
 inline constexpr int FirstRepeatInterval = 500;

@@ -6,6 +6,7 @@
 #include "controls/program_end.h"
 #include "controls/the_screen.h"
 #include "controls/wb_button.h"
+#include "core/date_text.h"
 #include "platform/window.h"
 
 #include <QCloseEvent>
@@ -127,8 +128,8 @@ void frmClock::Fill_Boxes() {
 void frmClock::wTextBox_Change() {
     if (writingTarget || !target)
         return;
-    if (const auto minutes = Read_Time(target->text()))
-        SetTime(*minutes);
+    if (const int minutes = ParseTime_Colon(target->text()); minutes >= 0)
+        SetTime(minutes);
 }
 
 void frmClock::Box_Change(QLineEdit* box) {

@@ -71,8 +71,6 @@ void frmHTMLview::changeEvent(QEvent* event) {
 }
 
 void frmHTMLview::SetHelpPos() {
-    if (Global_Toolbar == nullptr)
-        return;
     const ToolbarRect toolbar = Global_Toolbar->Bounds();
     LastMainLeft = toolbar.Left;
     LastMainTop = toolbar.Top;
@@ -87,8 +85,6 @@ void frmHTMLview::EnableTimer() {
 }
 
 void frmHTMLview::Timer1_Tick() {
-    if (Global_Toolbar == nullptr)
-        return;
     const ToolbarRect toolbar = Global_Toolbar->Bounds();
     if (toolbar.Left != LastMainLeft || toolbar.Top != LastMainTop)
         SetHelpPos();

@@ -38,14 +38,6 @@ TEST(ClockRules, A_held_button_waits_once_and_then_quickens_to_twenty_steps_a_se
     EXPECT_EQ(Next_RepeatInterval(50), 50);
 }
 
-TEST(ClockRules, A_time_is_read_only_if_it_is_one) {
-    EXPECT_EQ(Read_Time(u" 7:05 "_s), 425);
-    EXPECT_EQ(Read_Time(u"23:59"_s), 1439);
-    for (const QString& text :
-         {u"24:00"_s, u"12:60"_s, u"-1:00"_s, u"12"_s, u"12:"_s, u"a:b"_s, u"1:2:3"_s, QString()})
-        EXPECT_EQ(Read_Time(text), std::nullopt) << text.toStdString();
-}
-
 // The tip, and the base across the middle; on the dial as on paper.
 TEST(ClockRules, A_hand_points_from_the_middle_where_its_angle_says) {
     const std::pair<double, QPointF> cases[] = {
