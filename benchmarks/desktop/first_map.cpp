@@ -1,9 +1,12 @@
 // Starts programs in turn on a bare screen and measures the time to their first mapped window and
-// their resident memory: first_map ROUNDS PROGRAM BASELINE LIMIT. Prints medians and ratios.
+// their resident memory: first_map ROUNDS PROGRAM BASELINE. Prints rows of medians and ratios.
+#include "row.h"
+
 #include <xcb/xcb.h>
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -64,11 +67,18 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
+void Print(const char* what, const std::vector<double>& ours, const std::vector<double>& bare,
+           const std::string& unit, double limit) {
+    const auto text = [&](double value) { return std::to_string(std::lround(value)) + " " + unit; };
+    Print_Row({what, text(Median(ours)), text(Median(bare)) + " bare window",
+               Median(ours) / Median(bare), limit, 0, 0});
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 5) {
-        std::fputs("usage: first_map ROUNDS PROGRAM BASELINE LIMIT\n", stderr);
+    if (argc != 4) {
+        std::fputs("usage: first_map ROUNDS PROGRAM BASELINE\n", stderr);
         return 2;
     }
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
@@ -86,12 +96,9 @@ int main(int argc, char** argv) {
         Measure(connection, argv[2], program);
         Measure(connection, argv[3], baseline);
     }
-    std::printf("start to mapped window: %.0f ms, bare window %.0f ms: %.2f x (limit %s)\n",
-                Median(program.milliseconds), Median(baseline.milliseconds),
-                Median(program.milliseconds) / Median(baseline.milliseconds), argv[4]);
-    std::printf("resident memory: %.1f MB, bare window %.1f MB: %.2f x (limit %s)\n",
-                Median(program.kilobytes) / 1024, Median(baseline.kilobytes) / 1024,
-                Median(program.kilobytes) / Median(baseline.kilobytes), argv[4]);
+    Print("start to the first window on view", program.milliseconds, baseline.milliseconds, "ms",
+          1.15);
+    Print("resident memory", program.kilobytes, baseline.kilobytes, "kB", 1.25);
     xcb_disconnect(connection);
     return 0;
 }

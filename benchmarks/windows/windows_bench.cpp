@@ -1,5 +1,6 @@
-// How the windows bear many rows: each against the same window with few, in one run on the screen
-// that DISPLAY names.
+// How the windows bear many rows, each against the same window with few, and how long a background
+// save holds the interface; in one run on the screen that DISPLAY names.
+#include "app/background_save.h"
 #include "controls/form.h"
 #include "controls/program_end.h"
 #include "controls/timers.h"
@@ -13,17 +14,22 @@
 #include "links/store/link_rec.h"
 #include "notes/frm_notes_editor.h"
 #include "notes/notes_store.h"
+#include "platform/files.h"
 #include "platform/system.h"
+#include "row.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -165,9 +171,63 @@ double Worst_NoteKey() {
     return worst;
 }
 
-void Print(const char* what, double many, double few, double limit) {
-    std::printf("%s: %.1f ms against %.1f ms, ratio %.2f (limit %.1f)\n", what, many, few,
-                many / few, limit);
+constexpr double Frame = 1000.0 / 60; // ms
+
+std::string Milliseconds(double time) {
+    return QString::number(time, 'f', 1).toStdString() + " ms";
+}
+
+// Many rows against few, and against a hundred times as few.
+void Print_Many(const char* what, double many, double few, double limit, double ten = 0,
+                double hundred = 0) {
+    Print_Row({what, Milliseconds(many), Milliseconds(few) + " with 10", many / few, limit, ten,
+               hundred});
+}
+
+void Print_InFrame(const char* what, double time) {
+    Print_Row({what, Milliseconds(time), "16.7 ms frame", time / Frame, 1, 0, 0});
+}
+
+// A disk that takes two seconds for a sync.
+class SlowDisk : public platform::Files {
+public:
+    bool Exists(const QString&) override { return false; }
+    std::optional<std::string> Read(const QString&) override { return {}; }
+    bool Replace(const QString&, const std::string&) override {
+        QThread::sleep(2);
+        return true;
+    }
+    bool Copy(const QString&, const QString&, bool) override { return true; }
+    platform::FileStamp Stamp(const QString&) override { return {}; }
+    void Sweep(const QString&) override {}
+    bool Make_Folder(const QString&) override { return true; }
+    std::optional<QStringList> Empty_Files(const QString&) override { return {}; }
+};
+
+// The longest time in which the interface got to nothing else.
+double Longest_Hold(int reminders) {
+    SlowDisk disk;
+    platform::Files::Provide(&disk);
+    Fill_Reminders(reminders);
+    double longest = 0;
+    {
+        BackgroundSave save({{u"reminders.dat"_s, Reminders_File(), {}, {}},
+                             {},
+                             [] {},
+                             [] { return [] {}; },
+                             [](const QString&) {}});
+        save.Begin();
+        QElapsedTimer since;
+        since.start();
+        while (save.Is_Passing()) {
+            QApplication::processEvents();
+            longest = std::max(longest, static_cast<double>(since.nsecsElapsed()) / 1e6);
+            since.restart();
+        }
+        save.Finish();
+    }
+    platform::Files::Provide(nullptr);
+    return longest;
 }
 
 } // namespace
@@ -187,30 +247,40 @@ int main(int argc, char** argv) {
 
     Open_List(10); // fonts and pictures of the first window are not the list's
     const double ten = Open_List(10);
+    const double thousand = Open_List(1000);
     const double tenThousand = Open_List(10000);
-    Print("list of 10,000 reminders, opened, against 10", tenThousand, ten, 2);
-    Print("list of 100,000 reminders, opened, against 10,000", Open_List(100000), tenThousand, 10);
+    Print_Many("list of 10,000 reminders, opened", tenThousand, ten, 2, tenThousand / thousand,
+               Open_List(100000) / thousand);
     Fill_Reminders(10000);
     Show_ReminderEdit();
     Settle();
-    std::printf("worst step of a list of 10,000: %.1f ms (a frame is 16.7)\n",
-                Worst_Step(Open_ReminderEdit()));
-    std::printf("worst key in a title of 10,000: %.1f ms\n", Worst_Key(Open_ReminderEdit()));
+    Print_InFrame("worst step of a list of 10,000", Worst_Step(Open_ReminderEdit()));
+    Print_InFrame("worst key in a title of 10,000", Worst_Key(Open_ReminderEdit()));
     Close_All();
     Open_Menu(10);
     const double tenLinks = Open_Menu(10);
-    Print("menu of 1,000 links, opened, against 10", Open_Menu(1000), tenLinks, 1.5);
+    const double hundredLinks = Open_Menu(100);
+    const double thousandLinks = Open_Menu(1000);
+    Print_Many("links menu of 1,000, opened", thousandLinks, tenLinks, 1.5, hundredLinks / tenLinks,
+               thousandLinks / tenLinks);
     Open_Notes(10);
     const double tenNotes = Open_Notes(10);
-    Print("5,000 notes, opened, against 10", Open_Notes(5000), tenNotes, 2);
+    const double fiftyNotes = Open_Notes(50);
+    const double fiveHundred = Open_Notes(500);
+    const double fiveThousand = Open_Notes(5000);
+    Print_Many("5,000 notes, opened", fiveThousand, tenNotes, 2, fiveHundred / fiftyNotes,
+               fiveThousand / fiftyNotes);
     Show_NotesEditor();
     Settle();
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (qobject_cast<frmNotesEditor*>(window) != nullptr)
-            std::printf("worst step of 5,000 notes: %.1f ms\n", Worst_Step(window));
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (qobject_cast<frmNotesEditor*>(window) != nullptr) {
+            Print_InFrame("worst step of 5,000 notes", Worst_Step(window));
+        }
+    }
     Close_All();
-    std::printf("worst key in a note of 60,000 letters: %.1f ms (a frame is 16.7)\n",
-                Worst_NoteKey());
+    Print_InFrame("worst key in a note of 60,000 letters", Worst_NoteKey());
+    const double hold = Longest_Hold(100000);
+    Print_InFrame("background save of 100,000, longest hold, sync of 2 s", hold);
     Unload_LinksMenu();
     Global_Timers = nullptr;
 }
