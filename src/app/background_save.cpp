@@ -80,7 +80,7 @@ void BackgroundSave::Step() {
             return;
         }
     }
-    Hand_Over(ports.Reminders, reminders->Bytes());
+    Hand_Over(ports.Reminders, reminders->Take_Bytes());
     reminders.reset();
     for (const Table& table : ports.Others) {
         Hand_Over(table, table.Encode());

@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 // A read past the end, or a count that is more than what is left, sets the failure for good; from
 // then on every read gives 0 or an empty text. Nothing is allocated for what is not there.
@@ -66,6 +67,8 @@ public:
     bool Failed() const { return HasFailed; }
     std::int64_t Position() const { return static_cast<std::int64_t>(Content.size()) + 1; }
     const std::string& Bytes() const { return Content; }
+    // Without a copy; the writer has none afterwards.
+    std::string Take_Bytes() { return std::move(Content); }
     void Reserve(std::size_t bytes) { Content.reserve(bytes); }
 
     void Put_Header(std::string_view literal) { Content += literal; }

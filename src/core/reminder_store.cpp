@@ -144,8 +144,8 @@ bool RemindersEncoding::Step(std::size_t slots) {
     return true;
 }
 
-std::optional<std::string> RemindersEncoding::Bytes() const {
-    return stream.Failed() ? std::nullopt : std::optional(stream.Bytes());
+std::optional<std::string> RemindersEncoding::Take_Bytes() {
+    return stream.Failed() ? std::nullopt : std::optional(stream.Take_Bytes());
 }
 
 TableFile& Reminders_File() {
@@ -155,7 +155,7 @@ TableFile& Reminders_File() {
 bool Save_Reminders(const QString& fileName) {
     RemindersEncoding encoding;
     encoding.Step(Global_Reminders.size());
-    const std::optional<std::string> bytes = encoding.Bytes();
+    const std::optional<std::string> bytes = encoding.Take_Bytes();
     return bytes && File_OfReminders.Save(fileName, *bytes);
 }
 

@@ -78,8 +78,8 @@ public:
     // Encodes so many more slots. True: all of them, as the table stands now. Slots that came, went
     // or moved meanwhile start it anew.
     bool Step(std::size_t slots);
-    // Nothing when a text is too long for its field.
-    std::optional<std::string> Bytes() const;
+    // Once; nothing when a text is too long for its field.
+    std::optional<std::string> Take_Bytes();
 
 private:
     void Begin();

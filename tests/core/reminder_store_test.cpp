@@ -128,7 +128,7 @@ TEST_F(ReminderStore, ATableThatChangesWhileItIsEncodedComesOutAsItStandsInTheEn
             if (keepsChanging)
                 Add_Reminder(100);
         ASSERT_TRUE(Save_Reminders(dataFile));
-        EXPECT_EQ(encoding.Bytes(), files.content[dataFile]);
+        EXPECT_EQ(encoding.Take_Bytes(), files.content[dataFile]);
     }
 }
 
