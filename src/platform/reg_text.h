@@ -1,5 +1,5 @@
-// The text form of the registry editor: how one root of a registry is kept in a file, and how its
-// lines are written and read. Each name or value is encoded alone, so that no text is lost.
+// The text form of the registry editor: what the registry's files, the export and the import write
+// and read. Each name or text is encoded alone, so that none is lost.
 #pragma once
 
 #include "platform/registry_tree.h"
@@ -9,36 +9,48 @@
 
 namespace platform {
 
-inline constexpr std::string_view RegTextHeader = "REGEDIT4";
-
 // "HKEY_CURRENT_USER" and its like.
 QString Long_Root_Name(RegistryRoot root);
 
-// The text between the quotes of a line: backslash and quote behind a backslash, CR, LF and NUL as
-// \r, \n and \0.
-std::string Quoted_Bytes(const QString& text);
-// What such quotes hold; nothing when the last backslash has lost its letter.
-std::optional<QString> Unquoted_Text(std::string_view bytes);
-
-// "[HKEY_...\path]" and "name=value", without a line end.
-std::string Key_Line(RegistryRoot root, const QString& path);
-std::string Value_Line(const QString& name, const RegistryValue& value);
-
-struct RegLine {
-    QString name; // empty: the default value
-    RegistryValue value;
+struct KeyPlace {
+    RegistryRoot root = RegistryRoot::CurrentUser;
+    QString path; // without the root
 };
-// Nothing for a line that is no value in this form.
-std::optional<RegLine> Parse_Value_Line(std::string_view line);
+// Nothing when the key begins with no root in its short or long form, in any case.
+std::optional<KeyPlace> Place_Of(const QString& key);
 
-// All keys with all values below one root, lines ending with CR LF.
-std::string Write_RegText(RegistryRoot root, const RegistryTree& tree);
+// A file is this, and a text for each key; lines end with CR LF.
+inline constexpr std::string_view RegTextStart = "REGEDIT4\r\n\r\n";
+std::string Key_Text(const KeyPlace& key, const std::vector<NamedRegistryValue>& values);
+
+enum class RegStatementKind { OpenKey, DeleteKey, SetValue, DeleteValue, Nonsense };
+
+struct RegStatement {
+    RegStatementKind kind = RegStatementKind::Nonsense;
+    KeyPlace key; // of a value: the one that was opened last
+    QString name; // of a value; empty: the default value
+    RegistryValue value;
+    // Nothing is missing: editors and people leave out quotes, brackets and digits, and so does
+    // damage.
+    bool isSound = false;
+};
 
 struct RegText {
+    bool hasHeader = false;
+    std::vector<RegStatement> statements; // in their order; no empty lines and comments
+};
+RegText Read_RegText(std::string_view text);
+
+// One root in a file of its own. It is read as far as its statements are sound.
+struct RegTree {
     RegistryTree tree;
     bool isDamaged = false; // a line was lost
 };
-// Reads as far as it can be read.
-RegText Read_RegText(RegistryRoot root, std::string_view text);
+RegTree Read_RegTree(RegistryRoot root, std::string_view text);
+std::string Write_RegTree(RegistryRoot root, const RegistryTree& tree);
+
+// Bytes of one or two digits with blanks between them, or of two digits without. Nothing when there
+// is any other character; no byte at all is an empty list.
+std::optional<std::string> Bytes_OfHex(std::string_view digits);
 
 } // namespace platform

@@ -35,6 +35,12 @@ struct RegistryValue {
     bool operator==(const RegistryValue&) const = default;
 };
 
+struct NamedRegistryValue {
+    QString name; // empty: the default value
+    RegistryValue value;
+    bool operator==(const NamedRegistryValue&) const = default;
+};
+
 class Registry : public Service<Registry> {
 public:
     // A path is "Software\Tockly": parts joined by backslashes, no root; empty is the root itself.
@@ -45,7 +51,8 @@ public:
     virtual bool Delete_Key(RegistryRoot root, const QString& path) = 0;
     virtual std::vector<QString> Sub_Keys(RegistryRoot root, const QString& path) = 0;
 
-    // An empty name is the key's default value. Write fails when the key does not exist.
+    // An empty name is the key's default value. Write fails when the key does not exist, and for a
+    // name with a line break or a NUL.
     virtual std::optional<RegistryValue> Read(RegistryRoot root, const QString& path,
                                               const QString& name) = 0;
     virtual bool Write(RegistryRoot root, const QString& path, const QString& name,

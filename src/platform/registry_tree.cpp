@@ -44,6 +44,10 @@ RegistryValue Of_Its_Type(const RegistryValue& value) {
 
 } // namespace
 
+bool Fits_OneLine(const QString& text) {
+    return !text.contains(u'\r') && !text.contains(u'\n') && !text.contains(u'\0');
+}
+
 const RegistryTree::Key* RegistryTree::Find(const QString& path) const {
     const auto found = keys.find(Tidy(path).toLower());
     return found == keys.end() ? nullptr : &found->second;
@@ -108,10 +112,10 @@ std::optional<RegistryValue> RegistryTree::Read(const QString& path, const QStri
 
 bool RegistryTree::Write(const QString& path, const QString& name, const RegistryValue& value) {
     Key* key = Find(path);
-    if (key == nullptr || name.size() > MaxValueName) {
+    if (key == nullptr || name.size() > MaxValueName || !Fits_OneLine(name)) {
         return false;
     }
-    key->values.try_emplace(name.toLower(), NamedValue{name, {}}).first->second.value =
+    key->values.try_emplace(name.toLower(), NamedRegistryValue{name, {}}).first->second.value =
         Of_Its_Type(value);
     return true;
 }

@@ -8,8 +8,13 @@
 
 namespace platform {
 
+// Whether a line of a file can hold the text.
+bool Fits_OneLine(const QString& text);
+
 class RegistryTree {
 public:
+    bool operator==(const RegistryTree&) const = default;
+
     static constexpr int MaxKeyName = 255;     // characters of one part
     static constexpr int MaxDepth = 512;       // parts
     static constexpr int MaxValueName = 16383; // characters
@@ -30,13 +35,10 @@ public:
     std::vector<QString> All_Keys() const;
 
 private:
-    struct NamedValue {
-        QString name;
-        RegistryValue value;
-    };
     struct Key {
-        QString path;                         // in the case it was first written in
-        std::map<QString, NamedValue> values; // by lower-cased name
+        QString path;                                 // in the case it was first written in
+        std::map<QString, NamedRegistryValue> values; // by lower-cased name
+        bool operator==(const Key&) const = default;
     };
 
     const Key* Find(const QString& path) const;

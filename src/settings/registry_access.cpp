@@ -4,52 +4,21 @@
 #include "platform/record_text.h"
 #include "platform/reg_text.h"
 #include "platform/registry.h"
-#include "settings/hex_text.h"
-#include "settings/reg_file.h"
 
-#include <QStringList>
+#include <QByteArray>
 
-#include <array>
 #include <optional>
 #include <string>
 
 using namespace Qt::StringLiterals;
+using platform::KeyPlace;
+using platform::Place_Of;
 using platform::Registry;
-using platform::RegistryRoot;
 using platform::RegistryType;
 using platform::RegistryValue;
+using platform::RegStatementKind;
 
 namespace {
-
-struct RootForm {
-    const char* Short;
-    RegistryRoot Root;
-};
-
-constexpr std::array Roots{
-    RootForm{"HKCU", RegistryRoot::CurrentUser},     RootForm{"HKLM", RegistryRoot::LocalMachine},
-    RootForm{"HKCR", RegistryRoot::ClassesRoot},     RootForm{"HKUS", RegistryRoot::Users},
-    RootForm{"HKPD", RegistryRoot::PerformanceData}, RootForm{"HKDD", RegistryRoot::DynData},
-    RootForm{"HKCC", RegistryRoot::CurrentConfig},
-};
-
-struct KeyPlace {
-    RegistryRoot Root = RegistryRoot::CurrentUser;
-    QString Path; // without the root
-};
-
-// Nothing when the key begins with none of the roots. Of a short form the first four characters
-// decide.
-std::optional<KeyPlace> Place_Of(const QString& key) {
-    const QString head = key.section(u'\\', 0, 0);
-    const QStringList parts = key.section(u'\\', 1).split(u'\\', Qt::SkipEmptyParts);
-    for (const RootForm& form : Roots) {
-        if (head.left(4).compare(QLatin1String(form.Short), Qt::CaseInsensitive) == 0 ||
-            head.compare(platform::Long_Root_Name(form.Root), Qt::CaseInsensitive) == 0)
-            return KeyPlace{form.Root, parts.join(u'\\')};
-    }
-    return std::nullopt;
-}
 
 QString Value_Name(const QString& name) {
     return name == u"@"_s ? QString() : name;
@@ -57,7 +26,7 @@ QString Value_Name(const QString& name) {
 
 std::optional<RegistryValue> Read_Value(const QString& key, const QString& name) {
     const std::optional<KeyPlace> place = Place_Of(key);
-    return place ? Registry::Get().Read(place->Root, place->Path, name) : std::nullopt;
+    return place ? Registry::Get().Read(place->root, place->path, name) : std::nullopt;
 }
 
 // Nothing when the value is missing or of another type.
@@ -67,88 +36,63 @@ std::optional<RegistryValue> Read_Typed(const QString& key, const QString& name,
     return value && value->type == type ? value : std::nullopt;
 }
 
-bool Write_Value(const QString& key, const QString& name, const RegistryValue& value,
-                 bool createKey) {
-    const std::optional<KeyPlace> place = Place_Of(key);
+bool Write_Value(const std::optional<KeyPlace>& place, const QString& name,
+                 const RegistryValue& value, bool createKey) {
     if (!place)
         return false;
     Registry& registry = Registry::Get();
-    if (!registry.Key_Exists(place->Root, place->Path) &&
-        !(createKey && registry.Create_Key(place->Root, place->Path)))
+    if (!registry.Key_Exists(place->root, place->path) &&
+        !(createKey && registry.Create_Key(place->root, place->path)))
         return false;
-    return registry.Write(place->Root, place->Path, name, value);
+    return registry.Write(place->root, place->path, name, value);
 }
 
-bool Delete_Value(const QString& key, const QString& name) {
-    const std::optional<KeyPlace> place = Place_Of(key);
-    return place && Registry::Get().Delete_Value(place->Root, place->Path, name);
+// A root itself is never deleted.
+bool Delete_Key(const std::optional<KeyPlace>& place) {
+    return place && !place->path.isEmpty() && Registry::Get().Delete_Key(place->root, place->path);
 }
 
-// A name that is no piece of a line cannot stand in the file.
-bool Is_Writable(const QString& name) {
-    return !name.contains(u'\n') && !name.contains(u'\r') && !name.contains(u'\0');
+bool Delete_Value(const std::optional<KeyPlace>& place, const QString& name) {
+    return place && Registry::Get().Delete_Value(place->root, place->path, name);
 }
 
-bool Append_Values(std::string& file, const KeyPlace& place) {
+void Append_Key(std::string& file, const KeyPlace& place, bool recursive) {
     Registry& registry = Registry::Get();
-    const std::vector<QString> names = registry.Value_Names(place.Root, place.Path);
-    std::string binaries;
-    std::string numbers;
-    std::string standard;
-    std::string texts;
-    for (const QString& name : names) {
-        const auto value = registry.Read(place.Root, place.Path, name);
-        if (!value)
-            continue;
-        if (!Is_Writable(name))
-            return false;
-        std::string& lines = name.isEmpty()                        ? standard
-                             : value->type == RegistryType::String ? texts
-                             : value->type == RegistryType::Binary ? binaries
-                                                                   : numbers;
-        lines += RegFile_Value(name, *value);
+    std::vector<platform::NamedRegistryValue> values;
+    for (const QString& name : registry.Value_Names(place.root, place.path)) {
+        if (const auto value = registry.Read(place.root, place.path, name)) {
+            values.push_back({name, *value});
+        }
     }
-    file += standard + texts + binaries + numbers;
-    return true;
-}
-
-bool Append_Key(std::string& file, const KeyPlace& place, bool recursive) {
-    if (!Is_Writable(place.Path))
-        return false;
-    file += platform::Key_Line(place.Root, place.Path) + "\r\n";
-    if (!Append_Values(file, place))
-        return false;
-    file += "\r\n";
-    if (!recursive)
-        return true;
-    for (const QString& name : Registry::Get().Sub_Keys(place.Root, place.Path)) {
-        const QString path = place.Path.isEmpty() ? name : place.Path + u'\\' + name;
-        if (!Append_Key(file, {place.Root, path}, recursive))
-            return false;
+    file += platform::Key_Text(place, values);
+    if (!recursive) {
+        return;
     }
-    return true;
+    for (const QString& name : registry.Sub_Keys(place.root, place.path)) {
+        const QString above = place.path.isEmpty() ? QString() : place.path + u'\\';
+        Append_Key(file, {place.root, above + name}, recursive);
+    }
 }
 
 } // namespace
 
 bool clsRegistryAccess::CreateKey(const QString& key) const {
     const std::optional<KeyPlace> place = Place_Of(key);
-    return place && Registry::Get().Create_Key(place->Root, place->Path);
+    return place && Registry::Get().Create_Key(place->root, place->path);
 }
 
 bool clsRegistryAccess::KillKey(const QString& key) const {
-    const std::optional<KeyPlace> place = Place_Of(key);
-    return place && !place->Path.isEmpty() && Registry::Get().Delete_Key(place->Root, place->Path);
+    return Delete_Key(Place_Of(key));
 }
 
 bool clsRegistryAccess::KeyExists(const QString& key) const {
     const std::optional<KeyPlace> place = Place_Of(key);
-    return place && Registry::Get().Key_Exists(place->Root, place->Path);
+    return place && Registry::Get().Key_Exists(place->root, place->path);
 }
 
 std::vector<QString> clsRegistryAccess::EnumKeys(const QString& key) const {
     const std::optional<KeyPlace> place = Place_Of(key);
-    return place ? Registry::Get().Sub_Keys(place->Root, place->Path) : std::vector<QString>();
+    return place ? Registry::Get().Sub_Keys(place->root, place->path) : std::vector<QString>();
 }
 
 bool clsRegistryAccess::HaveSubkey(const QString& key) const {
@@ -157,7 +101,7 @@ bool clsRegistryAccess::HaveSubkey(const QString& key) const {
 
 bool clsRegistryAccess::WriteString(const QString& key, const QString& name,
                                     const QString& text) const {
-    return Write_Value(key, Value_Name(name), {RegistryType::String, text, {}, 0},
+    return Write_Value(Place_Of(key), Value_Name(name), {RegistryType::String, text, {}, 0},
                        CreateKeyIfDoesntExists);
 }
 
@@ -169,7 +113,7 @@ QString clsRegistryAccess::ReadString(const QString& key, const QString& name,
 
 bool clsRegistryAccess::WriteDWORD(const QString& key, const QString& name,
                                    std::int32_t value) const {
-    return Write_Value(key, Value_Name(name),
+    return Write_Value(Place_Of(key), Value_Name(name),
                        {RegistryType::DWord, {}, {}, static_cast<std::uint32_t>(value)},
                        CreateKeyIfDoesntExists);
 }
@@ -182,8 +126,8 @@ std::int32_t clsRegistryAccess::ReadDWORD(const QString& key, const QString& nam
 
 bool clsRegistryAccess::WriteBinary(const QString& key, const QString& name,
                                     const QString& text) const {
-    return Write_Value(key, Value_Name(name), {RegistryType::Binary, {}, Encode_Text(text), 0},
-                       CreateKeyIfDoesntExists);
+    return Write_Value(Place_Of(key), Value_Name(name),
+                       {RegistryType::Binary, {}, Encode_Text(text), 0}, CreateKeyIfDoesntExists);
 }
 
 QString clsRegistryAccess::ReadBinary(const QString& key, const QString& name,
@@ -193,7 +137,7 @@ QString clsRegistryAccess::ReadBinary(const QString& key, const QString& name,
 }
 
 bool clsRegistryAccess::KillValue(const QString& key, const QString& name) const {
-    return Delete_Value(key, Value_Name(name));
+    return Delete_Value(Place_Of(key), Value_Name(name));
 }
 
 bool clsRegistryAccess::ValueExists(const QString& key, const QString& name) const {
@@ -205,7 +149,7 @@ RegistryValueNames clsRegistryAccess::EnumValues(const QString& key) const {
     const std::optional<KeyPlace> place = Place_Of(key);
     if (!place)
         return names;
-    for (const QString& name : Registry::Get().Value_Names(place->Root, place->Path)) {
+    for (const QString& name : Registry::Get().Value_Names(place->root, place->path)) {
         const auto value = Read_Value(key, name);
         if (!value)
             continue;
@@ -222,29 +166,29 @@ bool clsRegistryAccess::ExportToReg(const QString& key, const QString& fileName,
     const std::optional<KeyPlace> place = Place_Of(key);
     if (!place || !KeyExists(key))
         return false;
-    std::string file = std::string(platform::RegTextHeader) + "\r\n\r\n";
-    return Append_Key(file, *place, recursive) && platform::Files::Get().Replace(fileName, file);
+    std::string file(platform::RegTextStart);
+    Append_Key(file, *place, recursive);
+    return platform::Files::Get().Replace(fileName, file);
 }
 
 bool clsRegistryAccess::ImportFromReg(const QString& fileName) const {
     const std::optional<std::string> content = platform::Files::Get().Read(fileName);
-    const auto statements = content ? Read_RegFile(*content) : std::nullopt;
-    if (!statements)
+    const platform::RegText text = platform::Read_RegText(content.value_or(std::string()));
+    if (!text.hasHeader)
         return false;
-    QString key;
-    for (const RegStatement& statement : *statements) {
-        switch (statement.Kind) {
-        case RegStatementKind::OpenKey:
-            key = statement.Name;
-            break;
+    for (const platform::RegStatement& statement : text.statements) {
+        switch (statement.kind) {
         case RegStatementKind::DeleteKey:
-            KillKey(statement.Name);
+            Delete_Key(statement.key);
             break;
         case RegStatementKind::SetValue:
-            Write_Value(key, statement.Name, statement.Value, CreateKeyIfDoesntExists);
+            Write_Value(statement.key, statement.name, statement.value, CreateKeyIfDoesntExists);
             break;
         case RegStatementKind::DeleteValue:
-            Delete_Value(key, statement.Name);
+            Delete_Value(statement.key, statement.name);
+            break;
+        case RegStatementKind::OpenKey: // with its first value
+        case RegStatementKind::Nonsense:
             break;
         }
     }
@@ -252,14 +196,18 @@ bool clsRegistryAccess::ImportFromReg(const QString& fileName) const {
 }
 
 QString clsRegistryAccess::BinToStr(const QString& hexText) {
-    return Decode_Text(Bytes_OfHex(Encode_Text(hexText)).value_or(std::string()));
+    return Decode_Text(platform::Bytes_OfHex(Encode_Text(hexText)).value_or(std::string()));
 }
 
 QString clsRegistryAccess::StrToBin(const QString& text) {
-    return QString::fromStdString(Hex_OfBytes(Encode_Text(text)));
+    QString digits;
+    for (const char byte : Encode_Text(text)) {
+        digits += QString::fromLatin1(QByteArray(1, byte).toHex().toUpper()) + u' ';
+    }
+    return digits;
 }
 
 bool clsRegistryAccess::isBinValid(const QString& text) {
-    const auto bytes = Bytes_OfHex(Encode_Text(text));
+    const auto bytes = platform::Bytes_OfHex(Encode_Text(text));
     return bytes && !bytes->empty();
 }

@@ -2,41 +2,35 @@
 #include "platform/reg_text.h"
 
 #include "fuzz.h"
-#include "settings/reg_file.h"
 
 using namespace platform;
 
 namespace {
 
-void Try_Own(std::string_view bytes) {
-    const RegText content = Read_RegText(RegistryRoot::CurrentUser, bytes);
-    const std::string written = Write_RegText(RegistryRoot::CurrentUser, content.tree);
-    const RegText again = Read_RegText(RegistryRoot::CurrentUser, written);
-    Must(!again.isDamaged && Write_RegText(RegistryRoot::CurrentUser, again.tree) == written);
+void Try_File(RegistryRoot root, std::string_view bytes) {
+    const RegistryTree tree = Read_RegTree(root, bytes).tree;
+    const RegTree again = Read_RegTree(root, Write_RegTree(root, tree));
+    Must(!again.isDamaged && again.tree == tree);
 }
 
-void Try_Foreign(std::string_view bytes) {
-    const auto statements = Read_RegFile(bytes);
-    if (!statements) {
-        return;
-    }
-    for (const RegStatement& statement : *statements) {
-        const QString& name = statement.Name;
-        // What no file can hold is refused before it is written.
-        if (statement.Kind != RegStatementKind::SetValue || name.contains(u'\0') ||
-            name.contains(u'\r') || name.contains(u'\n')) {
+void Try_Import(std::string_view bytes) {
+    for (const RegStatement& statement : Read_RegText(bytes).statements) {
+        // No registry holds other names.
+        if (statement.kind != RegStatementKind::SetValue || !Fits_OneLine(statement.name)) {
             continue;
         }
-        const auto again = Read_RegFile("REGEDIT4\r\n[HKEY_CURRENT_USER\\K]\r\n" +
-                                        RegFile_Value(name, statement.Value));
-        Must(again && again->size() == 2 && again->back().Name == name &&
-             again->back().Value == statement.Value);
+        const KeyPlace key{RegistryRoot::CurrentUser, QStringLiteral("K")};
+        const RegText again = Read_RegText(std::string(RegTextStart) +
+                                           Key_Text(key, {{statement.name, statement.value}}));
+        Must(again.hasHeader && again.statements.size() == 2 && again.statements[1].isSound &&
+             again.statements[1].name == statement.name &&
+             again.statements[1].value == statement.value);
     }
 }
 
 } // namespace
 
 void Try(Ground& ground) {
-    Try_Own(ground.Bytes());
-    Try_Foreign(ground.Bytes());
+    Try_File(RegistryRoot::CurrentUser, ground.Bytes());
+    Try_Import(ground.Bytes());
 }

@@ -52,18 +52,20 @@ protected:
 
 TEST_F(RegistryFiles, values_are_kept_as_lines_of_the_registry_editor) {
     ASSERT_TRUE(registry->Create_Key(User, u"Software\\Tockly"_s));
-    registry->Write(User, u"Software\\Tockly"_s, {}, Text(u"C:\\\"x\"\r\n"_s));
+    registry->Write(User, u"Software\\Tockly"_s, {}, Text(u"C:\\\"x\""_s));
     registry->Write(User, u"Software\\Tockly"_s, u"A\u00E4"_s, Text(u"\u0416"_s));
     registry->Write(User, u"Software\\Tockly"_s, u"B"_s,
                     {RegistryType::Binary, {}, std::string("\0\xAB", 2), 0});
+    registry->Write(User, u"Software\\Tockly"_s, u"L"_s, Text(u"1\r\n"_s));
     registry->Write(User, u"Software\\Tockly"_s, u"C"_s, {RegistryType::DWord, {}, {}, 0x14DU});
     EXPECT_EQ(Content(userFile), "REGEDIT4\r\n"
                                  "\r\n[HKEY_CURRENT_USER\\Software]\r\n"
                                  "\r\n[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
-                                 "@=\"C:\\\\\\\"x\\\"\\r\\n\"\r\n"
+                                 "@=\"C:\\\\\\\"x\\\"\"\r\n"
                                  "\"A\xE4\"=\"\xEF\xBB\xBF\xD0\x96\"\r\n"
+                                 "\"L\"=hex(1):31,0d,0a,00\r\n"
                                  "\"B\"=hex:00,ab\r\n"
-                                 "\"C\"=dword:0000014d\r\n");
+                                 "\"C\"=dword:0000014d\r\n\r\n");
 }
 
 TEST_F(RegistryFiles, a_file_written_by_hand_is_read_and_survives_a_change) {

@@ -80,6 +80,7 @@ TEST_P(RegistryContract, what_cannot_be_done_is_refused) {
     ASSERT_TRUE(Tested().Create_Key(User, u"K"_s));
     EXPECT_FALSE(Tested().Write(User, u"Missing"_s, u"v"_s, Text(u"x"_s)));
     EXPECT_FALSE(Tested().Key_Exists(User, u"Missing"_s));
+    EXPECT_FALSE(Tested().Write(User, u"K"_s, u"two\nlines"_s, Text(u"x"_s)));
     EXPECT_FALSE(Tested().Delete_Value(User, u"K"_s, u"v"_s));
     EXPECT_FALSE(Tested().Delete_Key(User, u"Missing"_s));
     EXPECT_FALSE(Tested().Delete_Key(User, {}));

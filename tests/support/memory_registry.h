@@ -16,6 +16,7 @@ public:
     void Refuse(Root root) { refused.insert(root); }
     void Allow(Root root) { refused.erase(root); }
     std::set<Root> unreadable;
+    std::map<Root, platform::RegistryTree> trees;
     int changes = 0; // that succeeded
 
     bool Create_Key(Root root, const QString& path) override {
@@ -54,6 +55,5 @@ private:
         return done;
     }
 
-    std::map<Root, platform::RegistryTree> trees;
     std::set<Root> refused;
 };

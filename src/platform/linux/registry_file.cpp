@@ -38,7 +38,7 @@ const RegistryTree& RegistryFile::Tree() {
         condition = Condition::Unreadable;
         return tree;
     }
-    RegText content = Read_RegText(root, *text);
+    RegTree content = Read_RegTree(root, *text);
     tree = std::move(content.tree);
     condition = content.isDamaged ? Condition::Damaged : Condition::Good;
     return tree;
@@ -90,7 +90,7 @@ bool RegistryFile::Write(const RegistryTree& changed) {
     }
     const auto files = Make_Files();
     files->Make_Folder(QFileInfo(path).path());
-    if (!files->Replace(path, Write_RegText(root, changed))) {
+    if (!files->Replace(path, Write_RegTree(root, changed))) {
         return false;
     }
     tree = changed;
