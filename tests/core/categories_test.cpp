@@ -21,7 +21,7 @@ QString Listed() {
 
 using Categories = CoreTest;
 
-TEST_F(Categories, LinesOfTwoPartsAreReadAndOthersSkipped) {
+TEST_F(Categories, Lines_Of_Two_Parts_Are_Read_And_Others_Skipped) {
     const std::pair<std::string, QString> cases[] = {
         {"Work;Write\r\nTV;TV\r\n", u"Work=Write TV=TV"_s},
         {"a;b;c\r\nMisc;\r\nplain\r\n;Icon\r\n\r\nTV;TV", u"Misc= TV=TV"_s},
@@ -36,7 +36,7 @@ TEST_F(Categories, LinesOfTwoPartsAreReadAndOthersSkipped) {
     EXPECT_EQ(files.content[file], "Caf\xE9;G\r\n\xEF\xBB\xBF\xE6\x97\xA5;H\r\n");
 }
 
-TEST_F(Categories, WithoutEntriesTheDefaultsStand) {
+TEST_F(Categories, Without_Entries_The_Defaults_Stand) {
     const QString defaults = u"Work=Write Hobbies=Laptop Birthdays=Gift Family=Home TV=TV "
                              "Appointments=Planner Phone Calls=Mobile Misc="_s;
     Load_Categories(file);
@@ -54,7 +54,7 @@ TEST_F(Categories, WithoutEntriesTheDefaultsStand) {
     EXPECT_EQ(files.content[file], "Mine;Icon");
 }
 
-TEST_F(Categories, ANameThatALineCannotHoldLeavesTheOthersWhole) {
+TEST_F(Categories, A_Name_That_A_Line_Cannot_Hold_Leaves_The_Others_Whole) {
     Global_Categories[0] = {u"One"_s, u"A"_s};
     Global_Categories[1] = {u"Bread;butter"_s, u"B"_s};
     Global_Categories[2] = {u"Two\r\nlines"_s, u"C"_s};
@@ -64,7 +64,7 @@ TEST_F(Categories, ANameThatALineCannotHoldLeavesTheOthersWhole) {
     EXPECT_EQ(files.content[file], "One;A\r\nFive;\r\n");
 }
 
-TEST_F(Categories, RemindersBringTheirCategoriesAlong) {
+TEST_F(Categories, Reminders_Bring_Their_Categories_Along) {
     Load_Categories(file);
     const QString before = Listed();
     const std::pair<QString, QString> used[] = {{u"Garden"_s, u"Tree"_s},
@@ -87,7 +87,7 @@ TEST_F(Categories, RemindersBringTheirCategoriesAlong) {
     EXPECT_EQ(Global_Categories.size() % 10, 1U);
 }
 
-TEST_F(Categories, ADeletedCategoryLeavesTheTableAndTheReminders) {
+TEST_F(Categories, A_Deleted_Category_Leaves_The_Table_And_The_Reminders) {
     Load_Categories(file);
     ReminderClass& reminder = Add_Reminder();
     reminder.rs_Category = u" work "_s;
@@ -102,7 +102,7 @@ TEST_F(Categories, ADeletedCategoryLeavesTheTableAndTheReminders) {
     EXPECT_EQ(Find_Category(u"Misc"_s), 6);
 }
 
-TEST_F(Categories, WhatIsTypedIntoACategoryBoxBecomesAName) {
+TEST_F(Categories, What_Is_Typed_Into_A_Category_Box_Becomes_A_Name) {
     const QString typed[][2] = {{u"  my   own\twork "_s, u"My Own Work"_s},
                                 {u"iPhone calls"_s, u"iPhone calls"_s},
                                 {u" -- "_s, QString()},

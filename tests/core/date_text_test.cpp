@@ -10,7 +10,7 @@ protected:
     ~DateText() override { Global_DateFormat = u"mm/dd/yyyy"_s; }
 };
 
-TEST_F(DateText, ADateIsPrintedInTheUsersPattern) {
+TEST_F(DateText, A_Date_Is_Printed_In_The_Users_Pattern) {
     struct {
         QString pattern;
         std::int32_t day, month, year;
@@ -30,7 +30,7 @@ TEST_F(DateText, ADateIsPrintedInTheUsersPattern) {
     EXPECT_EQ(DayToDateString(1), u"01/01/2000"_s);
 }
 
-TEST_F(DateText, ADateIsReadInTheUsersPattern) {
+TEST_F(DateText, A_Date_Is_Read_In_The_Users_Pattern) {
     struct {
         QString pattern, text;
         bool allowNoYear;
@@ -66,7 +66,7 @@ TEST_F(DateText, ADateIsReadInTheUsersPattern) {
     EXPECT_EQ(ParseUserDateToDay(u"02/29"_s, QString()), -1);
 }
 
-TEST_F(DateText, ADayAndMonthAreReadPartByPart) {
+TEST_F(DateText, A_Day_And_Month_Are_Read_Part_By_Part) {
     struct {
         QString text, format;
         int result;
@@ -88,7 +88,7 @@ TEST_F(DateText, ADayAndMonthAreReadPartByPart) {
     EXPECT_EQ(RemoveYearFromFormat(u"mm/yyyy/dd"_s), u"mm/dd"_s);
 }
 
-TEST_F(DateText, APatternNeedsDayMonthAndYear) {
+TEST_F(DateText, A_Pattern_Needs_Day_Month_And_Year) {
     EXPECT_TRUE(IsValidDateFormat(u"DD.MM.YY"_s));
     EXPECT_FALSE(IsValidDateFormat(u"d/m/yyyy"_s));
     EXPECT_FALSE(IsValidDateFormat(u"dd/mm"_s));
@@ -96,7 +96,7 @@ TEST_F(DateText, APatternNeedsDayMonthAndYear) {
     EXPECT_EQ(Default_DateFormat(u"M/d/yyyy"_s), u"mm/dd/yyyy"_s);
 }
 
-TEST_F(DateText, TimesAreReadAndPrinted) {
+TEST_F(DateText, Times_Are_Read_And_Printed) {
     struct {
         QString text;
         std::int32_t colon, hourMinute;
@@ -124,7 +124,7 @@ TEST_F(DateText, TimesAreReadAndPrinted) {
     EXPECT_EQ(MinutesToHM(0), u"0m"_s);
 }
 
-TEST_F(DateText, SmallTextsReadAsTheProgramPrintsThem) {
+TEST_F(DateText, Small_Texts_Read_As_The_Program_Prints_Them) {
     EXPECT_EQ(OrdinalText(2) + OrdinalText(3) + OrdinalText(21), u"2nd3rd21th"_s);
     EXPECT_EQ(DigitsOnly(u"2nd of 3\u0663"_s), u"23"_s);
     EXPECT_EQ(Global_MonthNames[9], u"September"_s);

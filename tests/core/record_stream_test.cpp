@@ -21,7 +21,7 @@ constexpr const char* allKindsHex = "48 65 61 64"             // header
 
 } // namespace
 
-TEST(RecordStream, EveryKindIsReadAndWrittenAsItsBytes) {
+TEST(RecordStream, Every_Kind_Is_Read_And_Written_As_Its_Bytes) {
     const std::string bytes = From_Hex(allKindsHex);
     RecordReader reader(bytes);
     EXPECT_EQ(reader.Get_Header(4), "Head");
@@ -59,7 +59,7 @@ TEST(RecordStream, EveryKindIsReadAndWrittenAsItsBytes) {
     EXPECT_FALSE(writer.Failed());
 }
 
-TEST(RecordStream, AReadPastTheEndFailsForGood) {
+TEST(RecordStream, A_Read_Past_The_End_Fails_For_Good) {
     struct {
         const char* hex;
         void (*read)(RecordReader&);
@@ -83,7 +83,7 @@ TEST(RecordStream, AReadPastTheEndFailsForGood) {
     }
 }
 
-TEST(RecordStream, NothingIsCutWhenATextIsTooLongForItsCount) {
+TEST(RecordStream, Nothing_Is_Cut_When_A_Text_Is_Too_Long_For_Its_Count) {
     const QString longest(65535, u'x');
     EXPECT_TRUE(Fits_RecString(longest));
     EXPECT_FALSE(Fits_RecString(longest + u'x'));
@@ -96,7 +96,7 @@ TEST(RecordStream, NothingIsCutWhenATextIsTooLongForItsCount) {
     EXPECT_TRUE(writer.Failed());
 }
 
-TEST(RecordStream, SharedTextsAreNeverMixedUp) {
+TEST(RecordStream, Shared_Texts_Are_Never_Mixed_Up) {
     RecordWriter writer;
     for (int number = 0; number < 1000; ++number)
         writer.Put_LenString(QString::number(number % 300));
@@ -105,7 +105,7 @@ TEST(RecordStream, SharedTextsAreNeverMixedUp) {
         ASSERT_EQ(reader.Get_SharedLenString(), QString::number(number % 300));
 }
 
-TEST(RecordText, ATextStandsInTheCodePageOrBehindTheMark) {
+TEST(RecordText, A_Text_Stands_In_The_Code_Page_Or_Behind_The_Mark) {
     struct {
         QString text;
         const char* hex;
@@ -133,7 +133,7 @@ TEST(RecordText, ATextStandsInTheCodePageOrBehindTheMark) {
         EXPECT_EQ(Decode_Text(From_Hex(hex)), platform::From_CodePage(From_Hex(hex))) << hex;
 }
 
-TEST(RecordText, EveryTextComesBackAndEveryFieldReadsAsItWasWritten) {
+TEST(RecordText, Every_Text_Comes_Back_And_Every_Field_Reads_As_It_Was_Written) {
     std::mt19937 dice(1);
     const char16_t units[] = {0x41, 0xEF, 0xBB, 0xBF, 0xFEFF, 0xE9,   0x20AC, 0x81,
                               0xC3, 0xAF, 0xC2, 0xE6, 0x65E5, 0xD83D, 0xDE00, 0xFFFD};

@@ -37,7 +37,7 @@ std::string Numbers(int count) {
 
 } // namespace
 
-TEST_F(RemindAgain, TheChoicesAreTheNumbersOfTheFile) {
+TEST_F(RemindAgain, The_Choices_Are_The_Numbers_Of_The_File) {
     const std::pair<std::string, std::vector<std::int32_t>> cases[] = {
         {"1\r\n 20\t\r\n300", {1, 20, 300}},
         {"// a, 7, b\n0\n15 minutes\n3,,4\r5", {7, 3, 4, 5}},
@@ -54,7 +54,7 @@ TEST_F(RemindAgain, TheChoicesAreTheNumbersOfTheFile) {
     EXPECT_EQ(Global_RA_Options.size(), 101U);
 }
 
-TEST_F(RemindAgain, AFileWithoutChoicesIsWrittenAnewAndOneWithTooManyStays) {
+TEST_F(RemindAgain, A_File_Without_Choices_Is_Written_Anew_And_One_With_Too_Many_Stays) {
     Load_RA_Options(optionsFile);
     EXPECT_EQ(files.content[optionsFile], defaultText);
     Load_RA_Options(optionsFile);
@@ -76,7 +76,7 @@ TEST_F(RemindAgain, AFileWithoutChoicesIsWrittenAnewAndOneWithTooManyStays) {
     EXPECT_EQ(files.content[optionsFile], Numbers(102));
 }
 
-TEST_F(RemindAgain, CaptionsReadAsTheMenuShowsThem) {
+TEST_F(RemindAgain, Captions_Read_As_The_Menu_Shows_Them) {
     const std::pair<std::int32_t, QString> cases[] = {{1, u"1 minute"_s},
                                                       {5, u"5 minutes"_s},
                                                       {59, u"59 minute"_s},
@@ -90,7 +90,7 @@ TEST_F(RemindAgain, CaptionsReadAsTheMenuShowsThem) {
         EXPECT_EQ(RA_Caption(minutes), caption);
 }
 
-TEST_F(RemindAgain, AChoiceCountsFromNowAndLosesAMinuteOverMidnight) {
+TEST_F(RemindAgain, A_Choice_Counts_From_Now_And_Loses_A_Minute_Over_Midnight) {
     struct Case {
         int hour, minute;
         std::int32_t minutes;
@@ -116,7 +116,7 @@ TEST_F(RemindAgain, AChoiceCountsFromNowAndLosesAMinuteOverMidnight) {
     EXPECT_EQ(Global_RA_Last, 0);
 }
 
-TEST_F(RemindAgain, ADueEntryIsDeliveredOnceOnItsOwnDayOnly) {
+TEST_F(RemindAgain, A_Due_Entry_Is_Delivered_Once_On_Its_Own_Day_Only) {
     Add_Reminder(1);
     clock.Set(2026, 3, 2, 23, 50);
     Choose_RA(3, 1, 0); // 30 minutes
@@ -141,7 +141,7 @@ TEST_F(RemindAgain, ADueEntryIsDeliveredOnceOnItsOwnDayOnly) {
     EXPECT_EQ(Global_RA_Last, -1);
 }
 
-TEST_F(RemindAgain, AnEntryThatMovesWaitsForTheNextPass) {
+TEST_F(RemindAgain, An_Entry_That_Moves_Waits_For_The_Next_Pass) {
     for (const std::int32_t id : {1, 2, 3, 4}) {
         Add_Reminder(id);
         Add_RA_Reminder(id, 0, Today, id == 2 ? 1439 : 540);
@@ -158,7 +158,7 @@ TEST_F(RemindAgain, AnEntryThatMovesWaitsForTheNextPass) {
     EXPECT_EQ(Global_RA_Last, 149);
 }
 
-TEST_F(RemindAgain, TheFileHoldsTheEntriesAndItsOldTail) {
+TEST_F(RemindAgain, The_File_Holds_The_Entries_And_Its_Old_Tail) {
     ASSERT_TRUE(Save_RA_Reminders(queueFile));
     const std::string header = "RA_Reminders";
     EXPECT_EQ(files.content[queueFile], header + From_Hex("FFFFFFFF"));
@@ -175,29 +175,4 @@ TEST_F(RemindAgain, TheFileHoldsTheEntriesAndItsOldTail) {
     ASSERT_TRUE(Load_RA_Reminders(queueFile));
     EXPECT_EQ(Global_RA_Last, 0);
     EXPECT_EQ(Global_RA_Reminders, (std::vector{RA_Entry{9558, 1201, 7, -2}}));
-}
-
-TEST_F(RemindAgain, ABrokenFileLeavesTheQueueAndIsKeptAside) {
-    Add_RA_Reminder(1, 2, 3, 4);
-    const std::string broken[] = {"",
-                                  "RA_Reminder",
-                                  "ra_reminders" + From_Hex("FFFFFFFF"),
-                                  "RA_Reminders" + From_Hex("FFFFFF"),
-                                  "RA_Reminders" + From_Hex("FEFFFFFF"),
-                                  "RA_Reminders" + From_Hex("00000080"),
-                                  "RA_Reminders" + From_Hex("FFFFFF7F"),
-                                  "RA_Reminders" + From_Hex("00000000") + std::string(15, 'x'),
-                                  "RA_Reminders" + From_Hex("01000000") + std::string(31, 'x')};
-    const std::string saved = "RA_Reminders" + From_Hex("00000000030000000400000001000000"
-                                                        "02000000");
-    for (const std::string& bytes : broken) {
-        files.content = {{queueFile, bytes}};
-        EXPECT_FALSE(Load_RA_Reminders(queueFile));
-        EXPECT_EQ(Global_RA_Last, 0);
-        EXPECT_EQ(Global_RA_Reminders[0], (RA_Entry{3, 4, 1, 2}));
-        ASSERT_TRUE(Save_RA_Reminders(queueFile));
-        EXPECT_TRUE(files.content[queueFile].starts_with(saved));
-        EXPECT_EQ(files.content[queueFile + u".damaged"_s], bytes);
-    }
-    EXPECT_FALSE(Load_RA_Reminders(u"/user/none.dat"_s));
 }

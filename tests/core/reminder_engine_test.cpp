@@ -91,7 +91,7 @@ ReminderClass New_Reminder(const DateRule& rule) {
 
 using ReminderEngine = CoreTest;
 
-TEST_F(ReminderEngine, EachKindFiresOnceOnEachOfItsDaysOfTenYears) {
+TEST_F(ReminderEngine, Each_Kind_Fires_Once_On_Each_Of_Its_Days_Of_Ten_Years) {
     const std::pair<int, bool> checks[] = {{0, false},    {Noon - 1, false}, {Noon, true},
                                            {Noon, false}, {Noon + 5, false}, {Noon + 6, false}};
     for (const DateRule& rule : rules) {
@@ -112,7 +112,7 @@ TEST_F(ReminderEngine, EachKindFiresOnceOnEachOfItsDaysOfTenYears) {
     }
 }
 
-TEST_F(ReminderEngine, TheRunDatesAreTheNearestDaysOfTheKind) {
+TEST_F(ReminderEngine, The_Run_Dates_Are_The_Nearest_Days_Of_The_Kind) {
     for (const DateRule& rule : rules) {
         std::vector<Day> days{-1};
         for (QDate day(2016, 1, 1); day < QDate(2032, 1, 1); day = day.addDays(1)) {
@@ -138,7 +138,7 @@ TEST_F(ReminderEngine, TheRunDatesAreTheNearestDaysOfTheKind) {
     }
 }
 
-TEST_F(ReminderEngine, EachFormOfHoursFiresInItsMinutes) {
+TEST_F(ReminderEngine, Each_Form_Of_Hours_Fires_In_Its_Minutes) {
     struct {
         const char* name;
         std::vector<HourSetup> setups;
@@ -178,7 +178,7 @@ TEST_F(ReminderEngine, EachFormOfHoursFiresInItsMinutes) {
 }
 
 // Asked once a second, as the program asks.
-TEST_F(ReminderEngine, TimesLessThanSixMinutesApartFireOnceMoreEach) {
+TEST_F(ReminderEngine, Times_Less_Than_Six_Minutes_Apart_Fire_Once_More_Each) {
     struct {
         const char* name;
         std::vector<std::int16_t> minutes;
@@ -218,7 +218,7 @@ TEST_F(ReminderEngine, TimesLessThanSixMinutesApartFireOnceMoreEach) {
     }
 }
 
-TEST_F(ReminderEngine, AClockThatJumpsFiresNothingTwiceThatItsGuardStillKnows) {
+TEST_F(ReminderEngine, A_Clock_That_Jumps_Fires_Nothing_Twice_That_Its_Guard_Still_Knows) {
     ReminderClass reminder;
     reminder.rs_Enabled = reminder.rs_REveryDay = true;
     reminder.AddNewHourSetup({-1, 600, 0, 0});
@@ -240,7 +240,7 @@ TEST_F(ReminderEngine, AClockThatJumpsFiresNothingTwiceThatItsGuardStillKnows) {
             << "step " << at++;
 }
 
-TEST_F(ReminderEngine, WithTheClockBefore2000TheDaysGoOn) {
+TEST_F(ReminderEngine, With_The_Clock_Before_2000_The_Days_Go_On) {
     for (const DateRule& rule : rules) {
         ReminderClass reminder = New_Reminder(rule);
         reminder.rs_wDaysArray_LWeek = 0;
@@ -271,7 +271,7 @@ TEST_F(ReminderEngine, WithTheClockBefore2000TheDaysGoOn) {
     EXPECT_FALSE(yearly.Engine_CheckDate(Moment_At(QDate(1999, 12, 30), Noon)));
 }
 
-TEST_F(ReminderEngine, ADisabledDayEndsWithItsDay) {
+TEST_F(ReminderEngine, A_Disabled_Day_Ends_With_Its_Day) {
     ReminderClass reminder = New_Reminder(rules[0]);
     reminder.rs_DisabledForToday = Counted_Day(firstDay);
     EXPECT_FALSE(reminder.Engine_CheckRunReminder(Moment_At(firstDay, Noon)));
@@ -283,7 +283,7 @@ TEST_F(ReminderEngine, ADisabledDayEndsWithItsDay) {
     EXPECT_EQ(reminder.rs_DisabledForToday, 0);
 }
 
-TEST_F(ReminderEngine, TodayIsMissedWhenItsTimeHasPassedWithoutAFire) {
+TEST_F(ReminderEngine, Today_Is_Missed_When_Its_Time_Has_Passed_Without_A_Fire) {
     struct {
         const char* name;
         HourSetup setup;
@@ -306,7 +306,7 @@ TEST_F(ReminderEngine, TodayIsMissedWhenItsTimeHasPassedWithoutAFire) {
     }
 }
 
-TEST_F(ReminderEngine, TheOddRulesOfTheRunDatesStand) {
+TEST_F(ReminderEngine, The_Odd_Rules_Of_The_Run_Dates_Stand) {
     const Moment now = Moment_At(firstDay, Noon);
     ReminderClass cycle = New_Reminder(rules[4]);
     cycle.rs_ReDays = 3;
@@ -340,14 +340,15 @@ TEST_F(ReminderEngine, TheOddRulesOfTheRunDatesStand) {
     EXPECT_EQ(weekly.rs_wDaysArray_LMonth, 19 * 12 + 11);
 }
 
-TEST_F(ReminderEngine, TheHourListKeepsTheMarksOfItsDay) {
+TEST_F(ReminderEngine, The_Hour_List_Keeps_The_Marks_Of_Its_Day) {
     ReminderClass reminder;
     reminder.rs_Enabled = reminder.rs_REveryDay = true;
     for (int round = 0; round < 3; ++round) {
         reminder.ClearAllHourSetup();
         EXPECT_EQ(reminder.HourSetupList_Size(), -1);
-        for (std::int16_t index = 0; index < 45; ++index)
-            reminder.AddNewHourSetup({-1, -1, index, 0});
+        for (std::int16_t index = 0; index < 45; ++index) // all but the last are switched off
+            reminder.AddNewHourSetup(
+                {index == 44 ? std::int16_t{-1} : std::int16_t{}, -1, index, 0});
         // The same list built again has been fired today.
         EXPECT_EQ(reminder.Engine_CheckRunReminder(Moment_At(firstDay, Noon)), round == 0);
     }

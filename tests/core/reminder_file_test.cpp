@@ -31,9 +31,6 @@ int Load_Record(ReminderClass& reminder, const std::string& bytes) {
     return reminder.LoadData_From_File(stream);
 }
 
-const QString dataFile = u"/user/reminders.dat"_s;
-const QString backupFile = u"/user/reminders.bak"_s;
-
 // Everything that the program does with a reminder that it has loaded.
 void Use_Table() {
     const Moment start = Read_Moment();
@@ -56,39 +53,9 @@ void Use_Table() {
 
 } // namespace
 
-class ReminderFile : public CoreTest {
-protected:
-    // Loads the file; if that succeeds, uses what it held and saves it, else finds an empty table.
-    // In both cases nothing of the file may be lost.
-    void Load_AndUse(const std::string& bytes) {
-        files.content = {{dataFile, bytes}, {backupFile, "the last good one"}};
-        Init_Reminders();
-        const AccountLoad result = Load_AccountReminders(u"/user"_s, QString());
-        if (result == AccountLoad::Loaded) {
-            EXPECT_EQ(files.content[backupFile], bytes);
-            Use_Table();
-        } else {
-            EXPECT_EQ(Global_Reminders.size(), 21U);
-            EXPECT_EQ(files.content[backupFile], "the last good one");
-        }
-        ASSERT_TRUE(Save_Reminders(dataFile));
-        std::map<QString, std::string> kept = files.content;
-        kept.erase(dataFile);
-        kept.erase(backupFile);
-        std::map<QString, std::string> expected;
-        if (result != AccountLoad::Loaded)
-            expected[dataFile + u".damaged"_s] = bytes;
-        EXPECT_EQ(kept, expected);
-        EXPECT_EQ(Load_Reminders(dataFile), 0);
-    }
-    static std::string Whole_File() {
-        return "RSaveFile001" + From_Hex("02 00 00 00") +
-               Join({"header", "003", "body", "category", "last"}) +
-               Join({"header", "001", "body"});
-    }
-};
+using ReminderFile = CoreTest;
 
-TEST_F(ReminderFile, EveryFieldIsReadFromItsBytes) {
+TEST_F(ReminderFile, Every_Field_Is_Read_From_Its_Bytes) {
     ReminderClass r;
     ASSERT_EQ(Load_Record(r, Join({"header", "003", "body", "category", "last"})), 0);
     EXPECT_TRUE(r.rs_Enabled && r.rs_Minimize_Apps && r.rs_REveryDay && r.rs_PlaySound);
@@ -129,7 +96,7 @@ TEST_F(ReminderFile, EveryFieldIsReadFromItsBytes) {
     EXPECT_EQ(r.rs_Category + u'/' + r.rs_Icon, u"TV/Gift"_s);
 }
 
-TEST_F(ReminderFile, EachVersionIsWrittenAsTheNewestOne) {
+TEST_F(ReminderFile, Each_Version_Is_Written_As_The_Newest_One) {
     struct {
         std::vector<std::string> before, after;
     } cases[] = {{{"001", "body"}, {"no category", "last of old"}},
@@ -151,46 +118,7 @@ TEST_F(ReminderFile, EachVersionIsWrittenAsTheNewestOne) {
     EXPECT_EQ(Record_Bytes(ReminderClass()).size(), 139U);
 }
 
-TEST_F(ReminderFile, AFileCutAtAnyLengthIsInvalidAndKept) {
-    const std::string whole = Whole_File();
-    for (std::size_t length = 0; length < whole.size(); ++length) {
-        files.content = {{dataFile, whole.substr(0, length)}};
-        EXPECT_EQ(Load_AccountReminders(u"/user"_s, QString()), AccountLoad::InvalidFile) << length;
-        Load_AndUse(whole.substr(0, length));
-    }
-    Load_AndUse(whole);
-    EXPECT_EQ(Global_Reminders.size(), 2U + 21U);
-}
-
-TEST_F(ReminderFile, NoChangedByteDoesHarm) {
-    const std::string whole = Whole_File();
-    for (std::size_t at = 0; at < whole.size(); ++at) {
-        for (const int change : {0x01, 0x7F, 0x80, 0xFF}) {
-            std::string bytes = whole;
-            bytes[at] = static_cast<char>(bytes[at] ^ change);
-            Load_AndUse(bytes);
-        }
-    }
-}
-
-TEST_F(ReminderFile, CountsOfNonsenseAreRefused) {
-    const std::string whole = Whole_File();
-    const std::size_t record = 16;
-    const std::size_t functions = record + 35 + 8 + 8 + 32 + 10;
-    const std::size_t placesOfCounts[] = {12, record + 35, record + 43, record + 83,
-                                          functions + 10 + 8 + 8 + 9};
-    for (const std::size_t place : placesOfCounts) {
-        for (const char* count : {"FF FF FF 7F", "FB FF FF FF", "00 00 00 80", "00 00 01 00"}) {
-            std::string bytes = whole;
-            bytes.replace(place, 4, From_Hex(count));
-            files.content = {{dataFile, bytes}};
-            EXPECT_EQ(Load_Reminders(dataFile), -1) << place << count;
-            Load_AndUse(bytes);
-        }
-    }
-}
-
-TEST_F(ReminderFile, NonsenseInEveryFieldCanStillBeUsed) {
+TEST_F(ReminderFile, Nonsense_In_Every_Field_Can_Still_Be_Used) {
     using Long = std::numeric_limits<std::int32_t>;
     using Short = std::numeric_limits<std::int16_t>;
     for (const std::int32_t wide : {Long::min(), Long::min() + 1, -1, 0, 1, Long::max()}) {
@@ -210,7 +138,8 @@ TEST_F(ReminderFile, NonsenseInEveryFieldCanStillBeUsed) {
                 r.rs_LastExecutedDate = r.rs_DayCreated = wide;
                 r.AddNewHourSetup({-1, narrow, narrow, narrow});
                 r.AddNewHourSetup({-1, -1, narrow, narrow});
-                r.AddNewHourSetup({narrow, narrow, Short::max(), 1});
+                for (int count = 0; count < 30; ++count)
+                    r.AddNewHourSetup({narrow, narrow, Short::max(), 1});
                 Use_Table();
                 const Moment old = Moment_At(QDate(1970, 1, 1), 0);
                 DayToDateString(r.GetNext_RunDate(old));
@@ -225,25 +154,4 @@ TEST_F(ReminderFile, NonsenseInEveryFieldCanStillBeUsed) {
             }
         }
     }
-}
-
-TEST_F(ReminderFile, ThirtyHourSetupsFireAfterARestartEachOnItsOwn) {
-    ReminderClass& reminder = Add_Reminder();
-    reminder.rs_Enabled = reminder.rs_REveryDay = true;
-    for (std::int16_t index = 0; index < 30; ++index) {
-        const auto start = static_cast<std::int16_t>(600 + index * 10);
-        reminder.AddNewHourSetup({-1, start, static_cast<std::int16_t>(start + 1), 60});
-    }
-    ASSERT_TRUE(Save_Reminders(dataFile));
-    ASSERT_EQ(Load_Reminders(dataFile), 0);
-    std::vector<int> fires;
-    std::vector<int> expected;
-    for (int minute = 595; minute < 1000; ++minute) {
-        if (minute >= 600 && minute < 900 && minute % 10 == 0)
-            expected.push_back(minute);
-        if (Global_Reminders[0].Reminder->Engine_CheckRunReminder(
-                Moment_At(QDate(2026, 3, 2), minute)))
-            fires.push_back(minute);
-    }
-    EXPECT_EQ(fires, expected);
 }

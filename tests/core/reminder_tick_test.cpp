@@ -17,7 +17,7 @@ void Set_StartUp(ReminderClass& reminder) {
 
 } // namespace
 
-TEST_F(Tick, ADeliveryMayChangeTheTableUnderTheLoop) {
+TEST_F(Tick, A_Delivery_May_Change_The_Table_Under_The_Loop) {
     for (std::int32_t id = 0; id < 5; ++id) {
         ReminderClass& reminder = Add_Reminder(id);
         Set_StartUp(reminder);
@@ -38,7 +38,7 @@ TEST_F(Tick, ADeliveryMayChangeTheTableUnderTheLoop) {
     EXPECT_EQ(ids.front(), 2);
 }
 
-TEST_F(Tick, AMidnightInADeliveryIsSeenByTheNextReminder) {
+TEST_F(Tick, A_Midnight_In_A_Delivery_Is_Seen_By_The_Next_Reminder) {
     for (std::int32_t id = 0; id < 2; ++id) {
         ReminderClass& reminder = Add_Reminder(id);
         Set_StartUp(reminder);

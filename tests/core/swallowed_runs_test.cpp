@@ -30,7 +30,7 @@ protected:
 
 } // namespace
 
-TEST_F(SwallowedRuns, AreTheTimesBetweenTwoChecksThatCannotFireAnyMore) {
+TEST_F(SwallowedRuns, Are_The_Times_Between_Two_Checks_That_Cannot_Fire_Any_More) {
     Add_Daily({840, 600, 600});
     const struct {
         Moment before, now;
@@ -56,7 +56,7 @@ TEST_F(SwallowedRuns, AreTheTimesBetweenTwoChecksThatCannotFireAnyMore) {
     EXPECT_EQ(Take_SwallowedRuns(At(-100, 0), At(0, 606)).size(), 121U);
 }
 
-TEST_F(SwallowedRuns, NeedADayOnWhichTheReminderWasDueAndASetupThatFiresOnce) {
+TEST_F(SwallowedRuns, Need_A_Day_On_Which_The_Reminder_Was_Due_And_A_Setup_That_Fires_Once) {
     ReminderClass& reminder = Add_Daily({600});
     reminder.rs_DateType_Used = DateType::Weekdays;
     reminder.Set_Rs_Rdays({1, 0, 0, 1}); // Monday and Thursday

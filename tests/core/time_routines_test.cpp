@@ -6,7 +6,7 @@
 using TimeRoutines = CoreTest;
 
 // A calendar that goes from one day to the next and knows leap years as this program does.
-TEST_F(TimeRoutines, EveryDayOfAThousandYearsHasTheNextNumber) {
+TEST_F(TimeRoutines, Every_Day_Of_A_Thousand_Years_Has_The_Next_Number) {
     const int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     Day expected = 0;
     for (int year = 2000; year <= 3000; ++year) {
@@ -26,7 +26,7 @@ TEST_F(TimeRoutines, EveryDayOfAThousandYearsHasTheNextNumber) {
     EXPECT_EQ(DateToDay(-1, 3, 2005), -1);
 }
 
-TEST_F(TimeRoutines, TheCalendarIsTheRealOneUntilTheLeapDayThatOnlyItHas) {
+TEST_F(TimeRoutines, The_Calendar_Is_The_Real_One_Until_The_Leap_Day_That_Only_It_Has) {
     for (QDate date(2000, 1, 1); date <= QDate(2100, 1, 31); date = date.addDays(1)) {
         const Moment now = Moment_At(date, 754);
         ASSERT_EQ(now.Today, Counted_Day(date));
@@ -40,7 +40,7 @@ TEST_F(TimeRoutines, TheCalendarIsTheRealOneUntilTheLeapDayThatOnlyItHas) {
     EXPECT_THROW(DaysInMonth(0, 2000), std::out_of_range);
 }
 
-TEST_F(TimeRoutines, ADayGoesOnToTheNextAlsoOutsideTheCalendar) {
+TEST_F(TimeRoutines, A_Day_Goes_On_To_The_Next_Also_Outside_The_Calendar) {
     struct {
         QDate first;
         Day today;
@@ -52,7 +52,7 @@ TEST_F(TimeRoutines, ADayGoesOnToTheNextAlsoOutsideTheCalendar) {
     }
 }
 
-TEST_F(TimeRoutines, TheBaseOfTheDaysIsTakenOnce) {
+TEST_F(TimeRoutines, The_Base_Of_The_Days_Is_Taken_Once) {
     struct {
         int year, month, day;
         std::int32_t base;
@@ -67,14 +67,14 @@ TEST_F(TimeRoutines, TheBaseOfTheDaysIsTakenOnce) {
     }
 }
 
-TEST_F(TimeRoutines, TheTimeOfDayDropsTheSecondsOnlyFromTheMinute) {
+TEST_F(TimeRoutines, The_Time_Of_Day_Drops_The_Seconds_Only_From_The_Minute) {
     clock.Set(2026, 3, 2, 18, 30, 45);
     EXPECT_EQ(Get_CurrentMinute(), 1110);
     EXPECT_FLOAT_EQ(Get_TimeFraction(), 66645.0F / 86400.0F);
     EXPECT_EQ(HourToMinutes(23, 59), 1439);
 }
 
-TEST_F(TimeRoutines, AWeekdayOfThisWeekIsGoneWhenItHasPassed) {
+TEST_F(TimeRoutines, A_Weekday_Of_This_Week_Is_Gone_When_It_Has_Passed) {
     clock.Set(2026, 3, 5); // a Thursday
     const Moment now = Read_Moment();
     using enum WhichWeek;

@@ -37,38 +37,6 @@ TEST_F(NotesStore, The_bytes_are_those_written_by_hand) {
     EXPECT_EQ(Bytes(u"again"_s), One_Note());
 }
 
-TEST_F(NotesStore, A_file_broken_anywhere_is_refused_and_kept_aside) {
-    const std::string whole = One_Note();
-    Notes_Build_Example();
-    for (std::size_t size = 0; size < whole.size(); ++size) {
-        EXPECT_EQ(Load(whole.substr(0, size)), size < 13 ? NotesWrongHeader : NotesDamaged) << size;
-        EXPECT_EQ(Used_Notes(), 3) << size;
-    }
-    struct Case {
-        const char* name;
-        std::size_t at;
-        std::string bytes;
-        int result;
-    };
-    const std::size_t last = 58;
-    const Case cases[] = {{"another magic", 0, "n", NotesWrongHeader},
-                          {"an unknown version", 13, "000", NotesUnknownVersion},
-                          {"no table is that long", last, "\xFF\xFF\xFF\x7F"s, NotesDamaged},
-                          {"a last index below none", last, "\xFE\xFF\xFF\xFF"s, NotesDamaged},
-                          {"a title past the end", last + 6, "\xFF\xFF"s, NotesDamaged}};
-    for (const Case& row : cases) {
-        std::string bytes = whole;
-        bytes.replace(row.at, row.bytes.size(), row.bytes);
-        EXPECT_EQ(Load(bytes), row.result) << row.name;
-        EXPECT_EQ(Global_NoteCategories[0], u"Work Stuff"_s) << row.name;
-    }
-    EXPECT_EQ(Load_Notes_File(File(u"none"_s)), NotesNotReadable);
-    EXPECT_EQ(Load(whole.substr(0, 50)), NotesDamaged);
-    ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
-    EXPECT_EQ(Bytes(u"notes.dat.damaged"_s), whole.substr(0, 50));
-    EXPECT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
-}
-
 TEST_F(NotesStore, A_new_account_and_a_damaged_one_get_the_examples) {
     const auto Own_Examples = [this](const std::string& bytes) {
         Init_Notes();
@@ -93,9 +61,6 @@ TEST_F(NotesStore, A_new_account_and_a_damaged_one_get_the_examples) {
     system.files.Replace(File(u"notes.dat"_s), One_Note());
     EXPECT_EQ(Load_Account(), NotesLoad::Loaded);
     EXPECT_EQ(Used_Notes(), 1);
-    system.files.refusedWrites << u"notes.dat"_s;
-    EXPECT_FALSE(Save_Notes_File(File(u"notes.dat"_s)));
-    EXPECT_EQ(Bytes(u"notes.dat"_s), One_Note());
 }
 
 TEST_F(NotesStore, Saving_moves_the_last_notes_into_the_gaps) {

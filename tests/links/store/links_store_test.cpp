@@ -82,35 +82,6 @@ TEST_F(LinksStore, A_list_is_stored_row_by_row_up_to_the_first_empty_address) {
     EXPECT_EQ(Global_LinkArray, rows);
 }
 
-TEST_F(LinksStore, A_broken_file_changes_nothing_and_is_kept_at_the_next_save) {
-    const std::vector<LinkRec> before = {{u"0before"_s, {}, {}}};
-    Global_LinkArray = before;
-    for (std::size_t size = 0; size < TwoRows.size(); ++size) {
-        EXPECT_NE(Load(TwoRows.substr(0, size)), 0) << size << " bytes";
-        EXPECT_EQ(Global_LinkArray, before);
-    }
-    const struct {
-        const char* Name;
-        std::string Bytes;
-        int Result;
-    } cases[] = {
-        {"no links file", "linksSaveFile001\xFF\xFF\xFF\xFF", -1},
-        {"another version", "LinksSaveFile002\xFF\xFF\xFF\xFF", -2},
-        {"two billion rows", Start + "\xFF\xFF\xFF\x7F" + std::string(70, '\0'), 1},
-        {"a last row of -2", Start + "\xFE\xFF\xFF\xFF", 1},
-        {"a text longer than the file", Start + "\0\0\0\0\xFF\xFF"s + std::string(99, 'x'), 1},
-    };
-    for (const auto& one : cases) {
-        EXPECT_EQ(Load(one.Bytes), one.Result) << one.Name;
-        EXPECT_EQ(Global_LinkArray, before) << one.Name;
-    }
-    EXPECT_EQ(Saved(), Start + "\0\0\0\0\x07\0"s + "0before" + std::string(5, '\0'));
-    EXPECT_EQ(system.files.Read(file + u".damaged"_s), cases[4].Bytes);
-    system.files.refusedReads << file;
-    EXPECT_NE(Load_Links_File(file), 0);
-    EXPECT_FALSE(Save_Links_File(file)); // what could not be read is not written over
-}
-
 TEST_F(LinksStore, The_tree_takes_any_list) {
     const struct {
         const char* Name;
