@@ -40,7 +40,7 @@ protected:
     bool linksMenu = false;
 };
 
-TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brings_the_strip_back) {
+TEST_F(AutoHideTest, Each_Way_Ends_At_Its_Size_And_Edge_On_Time_And_A_Click_Brings_The_Strip_Back) {
     struct Case {
         const char* name;
         HideMode mode;
@@ -81,7 +81,7 @@ TEST_F(AutoHideTest, Each_way_ends_at_its_size_and_edge_on_time_and_a_click_brin
     EXPECT_EQ(windows.windows[form.winId()].alphas.size(), 0U);
 }
 
-TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
+TEST_F(AutoHideTest, The_Thin_Strip_Tells_What_It_Is_For_And_Takes_A_Key) {
     QTest::mouseClick(form.wbButton1, Qt::LeftButton);
     clock.Advance(400);
     EXPECT_EQ(Place(), QRect(100, 50, 333, 8));
@@ -96,7 +96,7 @@ TEST_F(AutoHideTest, The_thin_strip_tells_what_it_is_for_and_takes_a_key) {
     Expect_Shown(Home);
 }
 
-TEST_F(AutoHideTest, A_show_in_the_middle_of_a_collapse_ends_where_the_strip_was) {
+TEST_F(AutoHideTest, A_Show_In_The_Middle_Of_A_Collapse_Ends_Where_The_Strip_Was) {
     for (const HideMode mode : {HideMode::Top, HideMode::Left, HideMode::Right, HideMode::Bottom}) {
         Hide(mode, 100);
         EXPECT_NE(Place(), Home);
@@ -113,7 +113,7 @@ TEST_F(AutoHideTest, A_show_in_the_middle_of_a_collapse_ends_where_the_strip_was
     EXPECT_FALSE(form.IsHiding());
 }
 
-TEST_F(AutoHideTest, A_guarded_strip_stays_and_only_the_close_button_says_why) {
+TEST_F(AutoHideTest, A_Guarded_Strip_Stays_And_Only_The_Close_Button_Says_Why) {
     form.Guard_Hiding(u"Not now"_s);
     clock.Advance(6000);
     timers.Tick(TimerName::AutoHideTimer);
@@ -132,7 +132,7 @@ TEST_F(AutoHideTest, A_guarded_strip_stays_and_only_the_close_button_says_why) {
     EXPECT_TRUE(form.Is_Collapsed());
 }
 
-TEST_F(AutoHideTest, It_hides_by_itself_when_the_mouse_has_been_away_long_enough) {
+TEST_F(AutoHideTest, It_Hides_By_Itself_When_The_Mouse_Has_Been_Away_Long_Enough) {
     const auto tick = [this](int milliseconds) {
         clock.Advance(milliseconds);
         timers.Tick(TimerName::AutoHideTimer);
@@ -173,7 +173,7 @@ TEST_F(AutoHideTest, It_hides_by_itself_when_the_mouse_has_been_away_long_enough
     EXPECT_EQ(Place(), QRect(100, 62, 333, 8));
 }
 
-TEST_F(AutoHideTest, Hidden_completely_it_comes_back_by_its_icon_and_the_icon_s_menu) {
+TEST_F(AutoHideTest, Hidden_Completely_It_Comes_Back_By_Its_Icon_And_Its_Menu) {
     commands.Connect(ToolbarCommand::View_Notes, [this] {
         EXPECT_TRUE(form.Toolbar_Visible());
         done << u"notes"_s;
@@ -213,7 +213,7 @@ TEST_F(AutoHideTest, Hidden_completely_it_comes_back_by_its_icon_and_the_icon_s_
               (QStringList{u"notes"_s, u"unload"_s}));
 }
 
-TEST_F(AutoHideTest, Hiding_a_collapsed_strip_restores_it_first) {
+TEST_F(AutoHideTest, Hiding_A_Collapsed_Strip_Restores_It_First) {
     Hide(HideMode::Left);
     QTest::mouseRelease(form.wbButton1, Qt::LeftButton, Qt::ShiftModifier, {5, 5});
     Q_EMIT form.wbButton1->Click();
@@ -223,7 +223,7 @@ TEST_F(AutoHideTest, Hiding_a_collapsed_strip_restores_it_first) {
     Expect_Shown(Home);
 }
 
-TEST_F(AutoHideTest, Without_a_tray_the_thin_strip_is_what_stays) {
+TEST_F(AutoHideTest, Without_A_Tray_The_Thin_Strip_Is_What_Stays) {
     tray.available = false;
     Global_Autohide_SelectedHideMode = 4;
     form.Move_To(700, 10);
@@ -237,7 +237,7 @@ TEST_F(AutoHideTest, Without_a_tray_the_thin_strip_is_what_stays) {
     Expect_Shown(QRect(700, 10, 333, 20));
 }
 
-TEST_F(AutoHideTest, It_fades_into_the_tray_taking_no_input_and_can_turn_round) {
+TEST_F(AutoHideTest, It_Fades_Into_The_Tray_Taking_No_Input_And_Can_Turn_Round) {
     Global_UseTransparency = true;
     auto& state = windows.windows[form.winId()];
     form.AutoHide_HideProc(HideMode::TrayIcon, false);
@@ -277,7 +277,7 @@ TEST_F(AutoHideTest, It_fades_into_the_tray_taking_no_input_and_can_turn_round) 
     EXPECT_EQ(state.alpha, std::nullopt);
 }
 
-TEST_F(AutoHideTest, The_fade_of_another_window_holds_off_a_hide_and_leaves_a_show_alone) {
+TEST_F(AutoHideTest, The_Fade_Of_Another_Window_Holds_Off_A_Hide_And_Leaves_A_Show_Alone) {
     QWidget other;
     Global_UseTransparency = true;
     Global_Transparency().DoFadeIn(&other);
@@ -291,7 +291,7 @@ TEST_F(AutoHideTest, The_fade_of_another_window_holds_off_a_hide_and_leaves_a_sh
     EXPECT_EQ(windows.windows[form.winId()].alphas.size(), 0U);
 }
 
-TEST_F(AutoHideTest, A_storm_of_clicks_leaves_a_strip_that_answers) {
+TEST_F(AutoHideTest, A_Storm_Of_Clicks_Leaves_A_Strip_That_Answers) {
     Global_UseTransparency = true;
     for (int wait = 0; wait < 400; wait += 23) {
         QTest::mouseClick(form.wbButton1, Qt::LeftButton);

@@ -1,44 +1,12 @@
 #include "toolbar/hide_rules.h"
-#include "toolbar/menu_tables.h"
 #include "toolbar/toolbar_drag.h"
 #include "toolbar/toolbar_layout.h"
 
-#include <QStringList>
 #include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(ToolbarLayout, Everything_has_its_place_and_the_message_line_takes_the_rest) {
-    const ToolbarLayout at = Layout_At(333);
-    EXPECT_EQ(at.Shape1, QRect(0, 0, 333, 20));
-    EXPECT_EQ(at.Line1, (LayoutLine{1, 1, 331, 1}));
-    EXPECT_EQ(at.Line4, (LayoutLine{2, 3, 2, 18}));
-    EXPECT_EQ(at.Line5, (LayoutLine{3, 3, 3, 18}));
-    EXPECT_EQ(at.wbButton2, QRect(8, 3, 97, 15));
-    EXPECT_EQ(at.wbButton3, QRect(109, 3, 17, 15));
-    EXPECT_EQ(at.wbButton5, QRect(129, 3, 19, 15));
-    EXPECT_EQ(at.wbButton6, QRect(151, 3, 19, 15));
-    EXPECT_EQ(at.wbButton4, QRect(173, 3, 19, 15));
-    EXPECT_EQ(at.Shape2, QRect(195, 3, 114, 15));
-    EXPECT_EQ(at.Picture1, QRect(196, 4, 112, 13));
-    EXPECT_EQ(at.Line2, (LayoutLine{197, 18, 310, 18}));
-    EXPECT_EQ(at.Line3, (LayoutLine{309, 5, 309, 18}));
-    EXPECT_EQ(at.wbButton1, QRect(314, 3, 16, 15));
-
-    const ToolbarLayout wide = Layout_At(600);
-    EXPECT_EQ(wide.Shape1, QRect(0, 0, 600, 20));
-    EXPECT_EQ(wide.Line1, (LayoutLine{1, 1, 598, 1}));
-    EXPECT_EQ(wide.wbButton4, QRect(173, 3, 19, 15));
-    EXPECT_EQ(wide.Shape2, QRect(195, 3, 381, 15));
-    EXPECT_EQ(wide.Picture1, QRect(196, 4, 379, 13));
-    EXPECT_EQ(wide.Line2, (LayoutLine{197, 18, 577, 18}));
-    EXPECT_EQ(wide.Line3, (LayoutLine{576, 5, 576, 18}));
-    EXPECT_EQ(wide.wbButton1, QRect(581, 3, 16, 15));
-}
-
-TEST(ToolbarLayout, A_width_too_small_for_a_message_line_leaves_none) {
+TEST(ToolbarLayout, A_Width_Too_Small_For_A_Message_Line_Leaves_None) {
     EXPECT_EQ(Layout_At(19).Picture1.width(), 0);
     EXPECT_EQ(Layout_At(220).Shape2.width(), 1);
 }
@@ -51,7 +19,7 @@ TwipsRect Strip_At(int left, int top, int width = 333) {
     return {left * 15, top * 15, width * 15, 300};
 }
 
-TEST(ToolbarDrag, The_strip_follows_the_cursor_and_stops_flush_with_the_edges) {
+TEST(ToolbarDrag, The_Strip_Follows_The_Cursor_And_Stops_Flush_With_The_Edges) {
     struct Case {
         const char* name;
         platform::Point to;
@@ -80,11 +48,11 @@ TEST(ToolbarDrag, The_strip_follows_the_cursor_and_stops_flush_with_the_edges) {
     }
 }
 
-TEST(ToolbarDrag, A_strip_wider_than_the_screen_keeps_its_close_button_on_it) {
+TEST(ToolbarDrag, A_Strip_Wider_Than_The_Screen_Keeps_Its_Close_Button_On_It) {
     EXPECT_EQ(ToolbarDrag::Clamped(Strip_At(-10, 0, 1000), First, Screen), Strip_At(-200, 0, 1000));
 }
 
-TEST(ToolbarDrag, A_step_from_the_edge_of_a_screen_goes_on_to_the_one_behind_it) {
+TEST(ToolbarDrag, A_Step_From_The_Edge_Of_A_Screen_Goes_On_To_The_One_Behind_It) {
     const std::tuple<const char*, TwipsRect, int, int, TwipsRect> rows[] = {
         {"in the open", Strip_At(100, 50), 10, 0, Strip_At(110, 50)},
         {"up to the edge", Strip_At(460, 50), 10, 0, Strip_At(467, 50)},
@@ -98,7 +66,7 @@ TEST(ToolbarDrag, A_step_from_the_edge_of_a_screen_goes_on_to_the_one_behind_it)
     }
 }
 
-TEST(ToolbarDrag, A_strip_off_the_screens_is_brought_back_in) {
+TEST(ToolbarDrag, A_Strip_Off_The_Screens_Is_Brought_Back_In) {
     const std::tuple<const char*, TwipsRect, TwipsRect> rows[] = {
         {"on one", Strip_At(100, 50), Strip_At(100, 50)},
         {"across two", Strip_At(700, 50), Strip_At(700, 50)},
@@ -112,13 +80,10 @@ TEST(ToolbarDrag, A_strip_off_the_screens_is_brought_back_in) {
     }
 }
 
-TEST(ToolbarDrag, Only_the_last_four_pixels_size) {
-    EXPECT_FALSE(ToolbarDrag::On_SizeHandle(328, 333));
-    EXPECT_TRUE(ToolbarDrag::On_SizeHandle(329, 333));
-    EXPECT_TRUE(ToolbarDrag::On_SizeHandle(400, 333));
-}
-
-TEST(ToolbarDrag, Sizing_ignores_every_move_to_280_pixels_or_less) {
+TEST(ToolbarDrag, The_Last_Four_Pixels_Size_And_Never_To_280_Pixels_Or_Less) {
+    for (const int x : {328, 329, 400}) {
+        EXPECT_EQ(ToolbarDrag::On_SizeHandle(x, 333), x > 328);
+    }
     ToolbarDrag drag;
     const TwipsRect start = Strip_At(100, 50);
     ASSERT_EQ(drag.Button_Down(330, 333, {430, 60}, start, Screen), GrabKind::Sizing);
@@ -132,19 +97,7 @@ TEST(ToolbarDrag, Sizing_ignores_every_move_to_280_pixels_or_less) {
     EXPECT_EQ(drag.Button_Up(), std::nullopt);
 }
 
-TEST(CloseButton, The_release_chooses_the_action_and_shift_comes_before_ctrl) {
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Left, 0), CloseAction::Minimize);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Left, 1), CloseAction::Hide);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Left, 2), CloseAction::Unload);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Left, 3), CloseAction::Hide);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Left, 4), CloseAction::Minimize);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Right, 2), CloseAction::Open_Menu);
-    EXPECT_EQ(Choose_CloseAction(MouseButton::Middle, 0), CloseAction::Nothing);
-    EXPECT_EQ(CloseAction_OfAnswer(-1), CloseAction::Nothing);
-    EXPECT_EQ(CloseAction_OfAnswer(3), CloseAction::Unload);
-}
-
-TEST(HidePlace, The_nearest_edge_is_tried_in_the_order_top_bottom_left_right) {
+TEST(HidePlace, The_Nearest_Edge_Is_Tried_In_The_Order_Top_Bottom_Left_Right) {
     struct Case {
         const char* name;
         int left;
@@ -167,24 +120,6 @@ TEST(HidePlace, The_nearest_edge_is_tried_in_the_order_top_bottom_left_right) {
             EXPECT_EQ(Best_HideMode(bounds, 333, {origin, QSize(800, 600)}), c.mode) << c.name;
         }
     }
-}
-
-QString Captions(std::span<const MenuRow> rows) {
-    QStringList lines;
-    for (const MenuRow& row : rows) {
-        lines << QString::number(row.Number) + u' ' + row.Caption.toString();
-    }
-    return lines.join(u'\n');
-}
-
-TEST(MenuTables, Every_entry_has_its_caption_and_its_number) {
-    EXPECT_EQ(Captions(mnuHideOptions()), u"0 Minimize (Left click)\n"
-                                          "1 Hide (Shift + Left click)\n"
-                                          "2 -\n"
-                                          "3 Unload Toolbar (Ctrl + Left Click)"_s);
-    EXPECT_EQ(Captions(mnuTrayIcon()), u"0 Show Toolbar\n1 -\n2 Add new reminder...\n3 -\n"
-                                       "4 View Reminders\n5 View Notes\n6 -\n7 Setup...\n8 -\n"
-                                       "9 Exit Tockly"_s);
 }
 
 } // namespace
