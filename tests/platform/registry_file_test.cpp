@@ -122,9 +122,11 @@ TEST_F(RegistryFiles, the_run_value_is_an_autostart_entry) {
     ASSERT_TRUE(registry->Write(Machine, RunKey, u"Other"_s, Text(u"x"_s)));
     EXPECT_FALSE(QFile::exists(Path(entry)));
     ASSERT_TRUE(registry->Write(Machine, RunKey, u"tockly"_s, Text(program)));
-    EXPECT_EQ(Content(entry), "[Desktop Entry]\nType=Application\nName=Tockly\nExec=\"" +
-                                  folder.path().toStdString() +
-                                  "/my \\\\\"\\\\$(x)\\\\\" 5%% prog\"\nTerminal=false\n");
+    const std::string place = folder.path().toStdString();
+    EXPECT_EQ(Content(entry),
+              "[Desktop Entry]\nType=Application\nName=Tockly\nIcon=tockly\nTryExec=" + place +
+                  "/my \"$(x)\" 5% prog\nExec=\"" + place +
+                  "/my \\\\\"\\\\$(x)\\\\\" 5%% prog\"\nTerminal=false\n");
     ASSERT_TRUE(registry->Write(Machine, RunKey, u"Tockly"_s, Text(u"\"/a b/c\" -d"_s)));
     EXPECT_NE(Content(entry).find("Exec=\"/a b/c\" \"-d\"\n"), std::string::npos);
     ASSERT_TRUE(registry->Delete_Value(Machine, RunKey, u"Tockly"_s));

@@ -6,7 +6,12 @@ namespace platform {
 
 namespace {
 
-// One word of an Exec line. Quoted, and then escaped once more as every text of an entry is.
+// As every text of an entry is written.
+QString Escaped(QString text) {
+    return text.replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s);
+}
+
+// One word of an Exec line.
 QString Exec_Word(const QString& word) {
     QString quoted;
     for (const QChar letter : word) {
@@ -18,8 +23,7 @@ QString Exec_Word(const QString& word) {
             quoted += letter; // alone it would be a field
         }
     }
-    quoted.replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s);
-    return u'"' + quoted + u'"';
+    return u'"' + Escaped(quoted) + u'"';
 }
 
 } // namespace
@@ -55,8 +59,9 @@ std::string Autostart_Entry(const QString& name, const QStringList& words) {
     for (const QString& word : words) {
         command.append(Exec_Word(word));
     }
-    return (u"[Desktop Entry]\nType=Application\nName="_s + name + u"\nExec="_s +
-            command.join(u' ') + u"\nTerminal=false\n"_s)
+    // The entry stays when the program is removed; then TryExec tells the desktop to pass it over.
+    return (u"[Desktop Entry]\nType=Application\nName="_s + name + u"\nIcon=tockly\nTryExec="_s +
+            Escaped(words.first()) + u"\nExec="_s + command.join(u' ') + u"\nTerminal=false\n"_s)
         .toStdString();
 }
 
