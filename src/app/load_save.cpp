@@ -39,6 +39,14 @@ void Show_Error(const QString& text) {
     platform::Dialogs::Get().Message(text, platform::BoxStyle::Critical);
 }
 
+void Tell_Damage(TableLoad result, const QString& invalid, const QString& unknownVersion) {
+    if (result == TableLoad::Invalid) {
+        Show_Error(invalid);
+    } else if (result == TableLoad::UnknownVersion) {
+        Show_Error(unknownVersion);
+    }
+}
+
 } // namespace
 
 const Application::Step Application::LoadOrder[17] = {
@@ -134,21 +142,14 @@ void Application::Load_CategoryTable() {
 }
 
 void Application::Load_ReminderTable() {
-    const AccountLoad result = Load_AccountReminders(
-        Global_UserPath, platform::Paths::Get().Shipped_File(u"examplereminders.dat"_s));
-    if (result != AccountLoad::InvalidFile && result != AccountLoad::UnknownVersion) {
-        return;
-    }
-    Show_Error(
-        u"Error loading reminders configuration:\r\n"_s +
-        (result == AccountLoad::UnknownVersion ? u"Version not supported"_s : u"Invalid file"_s));
+    const QString error = u"Error loading reminders configuration:\r\n"_s;
+    Tell_Damage(Load_AccountReminders(Global_UserPath, platform::Paths::Get().Shipped_File(
+                                                           u"examplereminders.dat"_s)),
+                error + u"Invalid file"_s, error + u"Version not supported"_s);
 }
 
 void Application::Load_RemindAgain() {
-    const QString fileName = Account_File(u"rareminders.dat"_s);
-    if (!platform::Files::Get().Is_Absent(fileName)) {
-        Load_RA_Reminders(fileName);
-    }
+    Load_RA_Reminders(Account_File(u"rareminders.dat"_s));
 }
 
 void Application::Build_OwnLinks() {
@@ -156,24 +157,18 @@ void Application::Build_OwnLinks() {
 }
 
 void Application::Load_LinkTable() {
-    const QString fileName = Account_File(u"links.dat"_s);
-    if (platform::Files::Get().Is_Absent(fileName)) {
-        Build_Default_Links();
-    } else if (const int result = Load_Links_File(fileName); result != 0) {
-        Show_Error(result == -2 ? u"Error loading links (file version not supported)"_s
-                                : u"Error loading links"_s);
+    const TableLoad result = Load_Links_File(Account_File(u"links.dat"_s));
+    Tell_Damage(result, u"Error loading links"_s,
+                u"Error loading links (file version not supported)"_s);
+    if (result != TableLoad::Loaded) {
         Build_Default_Links();
     }
 }
 
 void Application::Load_NoteTable() {
-    const NotesLoad result = Load_AccountNotes(
-        Global_UserPath, platform::Paths::Get().Shipped_File(u"examplenotes.dat"_s));
-    if (result == NotesLoad::UnknownVersion) {
-        Show_Error(u"Error loading notes (file version not supported)"_s);
-    } else if (result == NotesLoad::Invalid) {
-        Show_Error(u"Error loading notes"_s);
-    }
+    Tell_Damage(Load_AccountNotes(Global_UserPath,
+                                  platform::Paths::Get().Shipped_File(u"examplenotes.dat"_s)),
+                u"Error loading notes"_s, u"Error loading notes (file version not supported)"_s);
 }
 
 void Application::Place_Textbox() {

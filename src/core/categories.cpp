@@ -55,13 +55,14 @@ void Read_Line(std::string_view line, std::size_t& count) {
                  {Decode_Text(line.substr(0, middle)), Decode_Text(line.substr(middle + 1))});
 }
 
-void Read_Lines(std::string_view bytes) {
+TableLoad Read_Lines(std::string_view bytes) {
     std::size_t count = 0;
     while (!bytes.empty()) {
         const std::size_t end = bytes.find('\n');
         Read_Line(bytes.substr(0, end), count);
         bytes.remove_prefix(end == bytes.npos ? bytes.size() : end + 1);
     }
+    return TableLoad::Loaded;
 }
 
 // Each word begins with a capital.
@@ -80,16 +81,13 @@ void Init_Categories() {
     File_OfCategories = {};
 }
 
-void Load_Categories(const QString& fileName) {
-    platform::Files& files = platform::Files::Get();
+TableLoad Load_Categories(const QString& fileName) {
     Global_Categories.assign(FirstEntries, {});
-    const std::optional<std::string> bytes = File_OfCategories.Read(fileName);
-    File_OfCategories.Note_Load(fileName, bytes || files.Is_Absent(fileName));
-    if (bytes)
-        Read_Lines(*bytes);
+    const TableLoad result = File_OfCategories.Load(fileName, Read_Lines);
     if (Global_Categories.front().Name.isEmpty())
         std::copy(std::begin(defaultCategories), std::end(defaultCategories),
                   Global_Categories.begin());
+    return result;
 }
 
 std::string Encode_Categories() {

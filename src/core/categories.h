@@ -18,8 +18,8 @@ extern std::vector<CategoryEntry> Global_Categories;
 
 // 0..10, all empty.
 void Init_Categories();
-// "rcategories.txt"; a missing or empty file gives the default table. Failures are swallowed.
-void Load_Categories(const QString& fileName);
+// "rcategories.txt"; a missing or empty file gives the default table.
+TableLoad Load_Categories(const QString& fileName);
 void Save_Categories(const QString& fileName);
 // The bytes of that file.
 std::string Encode_Categories();

@@ -47,6 +47,31 @@ std::string_view RecordReader::Get_Header(std::size_t size) {
     return start == nullptr ? std::string_view{} : std::string_view{start, size};
 }
 
+TableLoad RecordReader::Get_Start(std::string_view header, std::string_view version) {
+    if (Get_Header(header.size()) != header) {
+        return TableLoad::Invalid;
+    }
+    const std::string_view found = Get_Header(version.size());
+    return HasFailed || found == version ? Result() : TableLoad::UnknownVersion;
+}
+
+std::size_t RecordReader::Check_Count(std::int64_t count, std::size_t entryBytes) {
+    if (count < 0 || static_cast<std::uint64_t>(count) > Left() / entryBytes) {
+        HasFailed = true;
+    }
+    return HasFailed ? 0 : static_cast<std::size_t>(count);
+}
+
+std::size_t RecordReader::Get_Count(std::size_t entryBytes) {
+    const std::int32_t count = Get_Long();
+    return Check_Count(count, entryBytes);
+}
+
+std::size_t RecordReader::Get_CountOfLast(std::size_t entryBytes) {
+    const std::int64_t last = Get_Long();
+    return Check_Count(last + 1, entryBytes);
+}
+
 std::uint8_t RecordReader::Get_Byte() {
     return Get_Number<std::uint8_t>();
 }

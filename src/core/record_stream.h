@@ -12,6 +12,14 @@
 #include <string_view>
 #include <utility>
 
+// How the load of a table or of one of its records ended.
+enum class TableLoad {
+    Loaded,
+    NoFile,         // known not to be there
+    Invalid,        // not to be read, of another form, or damaged
+    UnknownVersion, // of a newer program
+};
+
 // A read past the end, or a count that is more than what is left, sets the failure for good; from
 // then on every read gives 0 or an empty text. Nothing is allocated for what is not there.
 // The bytes must outlive the reader.
@@ -20,14 +28,20 @@ public:
     explicit RecordReader(std::string_view bytes) : Bytes(bytes) {}
 
     bool Failed() const { return HasFailed; }
-    // For a count that makes no sense: the record is damaged.
-    void Set_Failed() { HasFailed = true; }
+    TableLoad Result() const { return HasFailed ? TableLoad::Invalid : TableLoad::Loaded; }
     std::size_t Left() const { return HasFailed ? 0 : Bytes.size() - Offset; }
     // Counted from 1, as positions in a file are here.
     std::int64_t Position() const { return static_cast<std::int64_t>(Offset) + 1; }
 
     // The next size bytes, to be compared with a literal; empty on failure.
     std::string_view Get_Header(std::size_t size);
+    // The name of the form and, where it has one, its version.
+    TableLoad Get_Start(std::string_view header, std::string_view version = {});
+    // The count of entries that have at least so many bytes each; 0 and a failure when so many
+    // cannot be there.
+    std::size_t Get_Count(std::size_t entryBytes);
+    // The same, stored as the index of the last entry, -1 for none.
+    std::size_t Get_CountOfLast(std::size_t entryBytes);
     std::uint8_t Get_Byte();
     bool Get_Boolean(); // any value but 0 is true
     std::int16_t Get_Integer();
@@ -46,6 +60,7 @@ private:
     const char* Take(std::size_t size);
     template <class T>
     T Get_Number();
+    std::size_t Check_Count(std::int64_t count, std::size_t entryBytes);
     std::string_view Take_Text(std::int64_t count);
     QString Get_SharedText(std::int64_t count);
 

@@ -76,24 +76,24 @@ std::size_t Used_Entries() {
     return std::min(used, Global_RA_Reminders.size());
 }
 
-bool Read_Queue(RecordReader& stream) {
-    if (stream.Get_Header(FileHeader.size()) != FileHeader)
-        return false;
-    const std::int64_t count = std::int64_t{stream.Get_Long()} + 1;
-    if (stream.Failed() || count < 0 ||
-        static_cast<std::uint64_t>(count) > stream.Left() / EntryBytes)
-        return false;
-    Global_RA_Last = static_cast<std::int32_t>(count - 1);
+TableLoad Read_Queue(std::string_view content) {
+    RecordReader stream(content);
+    if (stream.Get_Start(FileHeader) != TableLoad::Loaded)
+        return TableLoad::Invalid;
+    const std::size_t count = stream.Get_CountOfLast(EntryBytes);
+    if (stream.Failed())
+        return TableLoad::Invalid;
+    Global_RA_Last = static_cast<std::int32_t>(count) - 1;
     if (count == 0)
-        return true;
-    Global_RA_Reminders.resize(static_cast<std::size_t>(count));
+        return TableLoad::Loaded;
+    Global_RA_Reminders.resize(count);
     for (RA_Entry& entry : Global_RA_Reminders) {
         entry.Day = stream.Get_Long();
         entry.Minute = stream.Get_Long();
         entry.ID = stream.Get_Long();
         entry.ID2 = stream.Get_Long();
     }
-    return true;
+    return TableLoad::Loaded;
 }
 
 } // namespace
@@ -203,15 +203,8 @@ void Check_RA_Reminders(const std::function<void(const ReminderRef&)>& deliver) 
     }
 }
 
-bool Load_RA_Reminders(const QString& fileName) {
-    const std::optional<std::string> bytes = File_OfQueue.Read(fileName);
-    bool loaded = false;
-    if (bytes) {
-        RecordReader stream(*bytes);
-        loaded = Read_Queue(stream);
-    }
-    File_OfQueue.Note_Load(fileName, loaded);
-    return loaded;
+TableLoad Load_RA_Reminders(const QString& fileName) {
+    return File_OfQueue.Load(fileName, Read_Queue);
 }
 
 std::optional<std::string> Encode_RA_Reminders(const QString& fileName) {

@@ -58,8 +58,8 @@ bool RA_Is_Due(const Moment& now);
 // One pass over the queue. Entries of deleted reminders go silently.
 void Check_RA_Reminders(const std::function<void(const ReminderRef& due)>& deliver);
 
-// "rareminders.dat". False: nothing was loaded, and the queue is as it was.
-bool Load_RA_Reminders(const QString& fileName);
+// "rareminders.dat". After a failure the queue is as it was.
+TableLoad Load_RA_Reminders(const QString& fileName);
 // What stands behind the entries in the file stays there. False: nothing was replaced.
 bool Save_RA_Reminders(const QString& fileName);
 // The bytes of that file, with the tail of the one that stands there; nothing when that cannot be

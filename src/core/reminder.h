@@ -11,6 +11,7 @@
 
 class RecordReader;
 class RecordWriter;
+enum class TableLoad;
 
 // When in the day a reminder fires. Minutes since midnight; StartMinute -1 = at start-up.
 struct HourSetup {
@@ -163,10 +164,10 @@ public:
     void Set_Rs_Rdays(const std::array<std::uint8_t, 8>& days) { rs_wDays = days; }
     std::array<std::uint8_t, 8> Get_Rs_Rdays() const { return rs_wDays; }
 
-    // The file form, version "003". Reading takes "001" to "003": 0, -1 for a wrong header or a
-    // short body, -2 for an unknown version. After a failure the fields read so far are set.
+    // The file form, version "003". Reading takes "001" to "003". After a failure the fields
+    // read so far are set.
     void SaveData_To_File(RecordWriter& stream) const;
-    int LoadData_From_File(RecordReader& stream);
+    TableLoad LoadData_From_File(RecordReader& stream);
 
 private:
     HourSlot& Hour_Slot(std::int32_t index);

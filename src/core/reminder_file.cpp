@@ -95,14 +95,8 @@ void ReminderClass::Read_Functions(RecordReader& stream) {
 }
 
 void ReminderClass::Read_HourList(RecordReader& stream) {
-    const std::int64_t count = std::int64_t{stream.Get_Long()} + 1;
     ClearAllHourSetup();
-    // Below -1 is no last index; nothing that this program writes has one.
-    if (count < 0 || static_cast<std::uint64_t>(count) > stream.Left() / HourSetupBytes) {
-        stream.Set_Failed();
-        return;
-    }
-    for (std::int64_t index = 0; index < count; ++index) {
+    for (std::size_t left = stream.Get_CountOfLast(HourSetupBytes); left > 0; --left) {
         HourSetup setup;
         setup.Enabled = stream.Get_Integer();
         setup.StartMinute = stream.Get_Integer();
@@ -112,15 +106,12 @@ void ReminderClass::Read_HourList(RecordReader& stream) {
     }
 }
 
-int ReminderClass::LoadData_From_File(RecordReader& stream) {
-    if (stream.Get_Header(RecordHeader.size()) != RecordHeader)
-        return -1;
-    const std::string_view versionText = stream.Get_Header(CurrentVersion.size());
-    if (stream.Failed())
-        return -1;
-    const int version = Read_Version(versionText);
+TableLoad ReminderClass::LoadData_From_File(RecordReader& stream) {
+    if (stream.Get_Start(RecordHeader) != TableLoad::Loaded)
+        return TableLoad::Invalid;
+    const int version = Read_Version(stream.Get_Header(CurrentVersion.size()));
     if (version == 0)
-        return -2;
+        return stream.Failed() ? TableLoad::Invalid : TableLoad::UnknownVersion;
     rs_Enabled = stream.Get_Boolean();
     rs_ID = stream.Get_Long();
     rs_ID2 = stream.Get_Long();
@@ -159,9 +150,7 @@ int ReminderClass::LoadData_From_File(RecordReader& stream) {
         rs_DayCreated = stream.Get_Long();
         rs_SFReserved3 = stream.Get_Long();
     }
-    if (stream.Failed())
-        return -1;
-    if (rs_DayCreated == 0)
+    if (rs_DayCreated == 0 && !stream.Failed())
         rs_DayCreated = 1;
-    return 0;
+    return stream.Result();
 }

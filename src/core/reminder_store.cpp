@@ -18,7 +18,7 @@ constexpr std::string_view FileVersion = "001";
 constexpr std::size_t FirstSlots = 51;
 constexpr std::size_t FreeSlotsAfterLoad = 21;
 constexpr std::size_t SlotStep = 20;
-constexpr std::size_t LeastRecordBytes = 115; // of the oldest version, without texts and hours
+constexpr std::size_t LeastRecordBytes = 7; // header and version
 constexpr std::size_t UsualRecordBytes = 256;
 constexpr std::int64_t CountPosition = 13; // behind header and version, counted from 1
 
@@ -32,27 +32,20 @@ std::vector<ReminderSlot> New_Table(std::size_t slots) {
     return std::vector<ReminderSlot>(slots);
 }
 
-int Read_Table(RecordReader& stream, std::vector<ReminderSlot>& table) {
-    if (stream.Get_Header(FileHeader.size()) != FileHeader)
-        return -1;
-    const std::string_view version = stream.Get_Header(FileVersion.size());
-    if (stream.Failed())
-        return -1;
-    if (version != FileVersion)
-        return -2;
-    const std::int32_t stored = stream.Get_Long();
-    if (stream.Failed() || stored < 0)
-        return -1;
-    const auto count = static_cast<std::size_t>(stored);
-    table.reserve(std::min(count, stream.Left() / LeastRecordBytes) + FreeSlotsAfterLoad);
+TableLoad Read_Table(std::string_view content, std::vector<ReminderSlot>& table) {
+    RecordReader stream(content);
+    if (const auto result = stream.Get_Start(FileHeader, FileVersion); result != TableLoad::Loaded)
+        return result;
+    const std::size_t count = stream.Get_Count(LeastRecordBytes);
+    table.reserve(count + FreeSlotsAfterLoad);
     for (std::size_t index = 0; index < count; ++index) {
         auto reminder = std::make_unique<ReminderClass>();
-        if (const int result = reminder->LoadData_From_File(stream); result != 0)
+        if (const auto result = reminder->LoadData_From_File(stream); result != TableLoad::Loaded)
             return result;
         table.push_back({true, false, std::move(reminder)});
     }
     table.resize(count + FreeSlotsAfterLoad);
-    return 0;
+    return stream.Result();
 }
 
 void Date_Example(ReminderClass& example, Day today) {
@@ -82,16 +75,13 @@ void Init_Reminders() {
     File_OfReminders = {};
 }
 
-int Load_Reminders(const QString& fileName) {
-    const std::optional<std::string> bytes = File_OfReminders.Read(fileName);
+TableLoad Load_Reminders(const QString& fileName) {
     std::vector<ReminderSlot> table;
-    int result = -1;
-    if (bytes) {
-        RecordReader stream(*bytes);
-        result = Read_Table(stream, table);
-    }
-    File_OfReminders.Note_Load(fileName, result == 0);
-    Global_Reminders = result == 0 ? std::move(table) : New_Table(FreeSlotsAfterLoad);
+    const TableLoad result = File_OfReminders.Load(
+        fileName, [&table](std::string_view content) { return Read_Table(content, table); });
+    if (result != TableLoad::NoFile)
+        Global_Reminders =
+            result == TableLoad::Loaded ? std::move(table) : New_Table(FreeSlotsAfterLoad);
     return result;
 }
 
@@ -159,25 +149,14 @@ bool Save_Reminders(const QString& fileName) {
     return bytes && File_OfReminders.Save(fileName, *bytes);
 }
 
-AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile) {
-    platform::Files& files = platform::Files::Get();
+TableLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile) {
     const QString fileName = accountFolder + "/reminders.dat"_L1;
-    if (files.Is_Absent(fileName)) {
-        if (!files.Exists(exampleFile))
-            return AccountLoad::NoFile;
-        Load_Reminders(exampleFile);
+    const TableLoad result = Load_Reminders(fileName);
+    if (result == TableLoad::Loaded)
+        platform::Files::Get().Copy(fileName, accountFolder + "/reminders.bak"_L1, true);
+    if (result == TableLoad::NoFile && Load_Reminders(exampleFile) != TableLoad::NoFile)
         Date_Examples(Get_TodayDay());
-        return AccountLoad::Examples;
-    }
-    switch (Load_Reminders(fileName)) {
-    case 0:
-        files.Copy(fileName, accountFolder + "/reminders.bak"_L1, true);
-        return AccountLoad::Loaded;
-    case -2:
-        return AccountLoad::UnknownVersion;
-    default:
-        return AccountLoad::InvalidFile;
-    }
+    return result;
 }
 
 std::int32_t Get_NewReminderID(std::int32_t& id2) {

@@ -66,9 +66,9 @@ extern std::vector<ReminderSlot> Global_Reminders;
 // 0..50, all free.
 void Init_Reminders();
 
-// Loads the table. 0; -1 wrong header or unreadable, -2 version not known: then the table is empty
-// (0..20) and the file's damaged bytes are kept aside before a later save replaces them.
-int Load_Reminders(const QString& fileName);
+// Loads the table. Without a file it stays as it is; after a failure it is empty (0..20), and the
+// file's damaged bytes are kept aside before a later save replaces them.
+TableLoad Load_Reminders(const QString& fileName);
 // Writes the used slots that are not pending. False: nothing was replaced.
 bool Save_Reminders(const QString& fileName);
 
@@ -94,16 +94,10 @@ private:
 // The file of the table, for who writes it beside the interface.
 TableFile& Reminders_File();
 
-enum class AccountLoad {
-    NoFile,         // a new account, without starter reminders: the table stays as it is
-    Examples,       // a new account; how the load of its starter reminders ended does not matter
-    Loaded,         // and copied to "reminders.bak"
-    InvalidFile,    // to be told to the user
-    UnknownVersion, // to be told to the user
-};
-// The load at the start of the program: "reminders.dat" of the account's folder, or the starter
-// reminders when there is no such file.
-AccountLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile);
+// The load at the start of the program: "reminders.dat" of the account's folder, copied to
+// "reminders.bak". Without one it is a new account: it gets the starter reminders as far as they
+// can be read.
+TableLoad Load_AccountReminders(const QString& accountFolder, const QString& exampleFile);
 
 // The lowest rs_ID that no used slot has, and the millisecond clock as the second number.
 std::int32_t Get_NewReminderID(std::int32_t& id2);

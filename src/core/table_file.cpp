@@ -19,19 +19,22 @@ QString Keep_Copy(const QString& fileName, QLatin1StringView ending) {
 
 } // namespace
 
-std::optional<std::string> TableFile::Read(const QString& fileName) {
+TableLoad TableFile::Load(const QString& fileName,
+                          const std::function<TableLoad(std::string_view content)>& read) {
+    platform::Files& files = platform::Files::Get();
     // The stamp first: what is written between the two counts as somebody else's.
     Known = fileName;
-    Stamp = platform::Files::Get().Stamp(fileName);
-    return platform::Files::Get().Read(fileName);
-}
-
-void TableFile::Note_Load(const QString& fileName, bool loaded) {
-    if (!loaded) {
+    Stamp = files.Stamp(fileName);
+    const auto content = files.Read(fileName);
+    const TableLoad result = content                     ? read(*content)
+                             : files.Is_Absent(fileName) ? TableLoad::NoFile
+                                                         : TableLoad::Invalid;
+    if (result == TableLoad::Invalid || result == TableLoad::UnknownVersion) {
         NotLoaded = fileName;
     } else if (NotLoaded == fileName) {
         NotLoaded.clear();
     }
+    return result;
 }
 
 // Before the file is replaced. False: its bytes are not this program's, and could not be kept.

@@ -2,12 +2,14 @@
 // neither the bytes of a file that could not be loaded, nor what another program has put there.
 #pragma once
 
+#include "core/record_stream.h"
 #include "platform/files.h"
 
 #include <QString>
 
-#include <optional>
+#include <functional>
 #include <string>
+#include <string_view>
 
 enum class SaveResult {
     Written,
@@ -18,10 +20,9 @@ enum class SaveResult {
 // One for each table that has a file.
 class TableFile {
 public:
-    // The whole content, to be followed by Note_Load; nothing when it cannot be read.
-    std::optional<std::string> Read(const QString& fileName);
-    // To be told the result of every load of the table.
-    void Note_Load(const QString& fileName, bool loaded);
+    // Hands the whole content to the table's reader, and gives back what that says.
+    TableLoad Load(const QString& fileName,
+                   const std::function<TableLoad(std::string_view content)>& read);
     // Replaces the file's content. A file whose load failed is first copied to its name +
     // ".damaged", one that was changed by somebody else to its name + ".other"; no earlier copy is
     // overwritten ("-2", "-3", ... follows). False: nothing was replaced.

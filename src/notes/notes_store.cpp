@@ -19,7 +19,6 @@ constexpr std::string_view FileHeader = "NotesSaveFile";
 constexpr std::string_view FileVersion = "001";
 constexpr std::size_t FirstSlots = 51;
 constexpr std::size_t LeastNoteBytes = 19; // without title and text
-constexpr std::int32_t NoNotes = -1;
 
 TableFile File_OfNotes;
 
@@ -45,41 +44,23 @@ void Put_Note(RecordWriter& stream, const NoteRec& note) {
     stream.Put_Byte(note.Category);
 }
 
-int Read_Tables(RecordReader& stream) {
-    if (stream.Get_Header(FileHeader.size()) != FileHeader)
-        return NotesWrongHeader;
-    const std::string_view version = stream.Get_Header(FileVersion.size());
-    if (stream.Failed())
-        return NotesDamaged;
-    if (version != FileVersion)
-        return NotesUnknownVersion;
+TableLoad Read_Tables(std::string_view content) {
+    RecordReader stream(content);
+    if (const auto result = stream.Get_Start(FileHeader, FileVersion); result != TableLoad::Loaded)
+        return result;
     std::array<QString, NoteCategoryCount> names;
     for (QString& name : names)
         name = stream.Get_RecString();
-    const std::int32_t last = stream.Get_Long();
-    if (stream.Failed() || last < NoNotes)
-        return NotesDamaged;
-    const auto count = static_cast<std::size_t>(last + std::int64_t{1});
-    if (count > stream.Left() / LeastNoteBytes)
-        return NotesDamaged;
-    std::vector<NoteRec> notes;
-    notes.reserve(count);
-    for (std::size_t index = 0; index < count; ++index)
-        notes.push_back(Get_Note(stream));
+    std::vector<NoteRec> notes(stream.Get_CountOfLast(LeastNoteBytes));
+    for (NoteRec& note : notes)
+        note = Get_Note(stream);
     if (stream.Failed())
-        return NotesDamaged;
+        return TableLoad::Invalid;
     Global_NoteCategories = std::move(names);
     // A file without notes leaves the table as the start of the program made it.
-    if (last != NoNotes)
+    if (!notes.empty())
         Global_Notes = std::move(notes);
-    return 0;
-}
-
-int Read_Content(const std::optional<std::string>& bytes) {
-    if (!bytes)
-        return NotesNotReadable;
-    RecordReader stream(*bytes);
-    return Read_Tables(stream);
+    return TableLoad::Loaded;
 }
 
 // The places of the notes in the order of the file: each gap takes the last note behind it.
@@ -117,10 +98,8 @@ void Init_Notes() {
     Forget_OpenNote();
 }
 
-int Load_Notes_File(const QString& fileName) {
-    const int result = Read_Content(File_OfNotes.Read(fileName));
-    File_OfNotes.Note_Load(fileName, result == 0);
-    return result;
+TableLoad Load_Notes_File(const QString& fileName) {
+    return File_OfNotes.Load(fileName, Read_Tables);
 }
 
 std::optional<std::string> Encode_Notes() {
@@ -159,19 +138,14 @@ void Notes_Build_Example() {
     std::copy(std::begin(examples), std::end(examples), Global_Notes.begin());
 }
 
-NotesLoad Load_AccountNotes(const QString& accountFolder, const QString& exampleFile) {
-    platform::Files& files = platform::Files::Get();
-    const QString fileName = accountFolder + "/notes.dat"_L1;
-    NotesLoad result = NotesLoad::NoFile;
-    if (!files.Is_Absent(fileName)) {
-        const int loaded = Load_Notes_File(fileName);
-        if (loaded == 0)
-            return NotesLoad::Loaded;
-        result = loaded == NotesUnknownVersion ? NotesLoad::UnknownVersion : NotesLoad::Invalid;
-    }
+TableLoad Load_AccountNotes(const QString& accountFolder, const QString& exampleFile) {
+    const TableLoad result = Load_Notes_File(accountFolder + "/notes.dat"_L1);
+    if (result == TableLoad::Loaded)
+        return result;
     // The program's own examples follow those that could be read, too; a file of examples that
     // cannot be read leaves the archive empty. Both are meant.
-    if (!files.Exists(exampleFile) || Read_Content(files.Read(exampleFile)) == 0)
+    const TableLoad examples = TableFile().Load(exampleFile, Read_Tables);
+    if (examples == TableLoad::NoFile || examples == TableLoad::Loaded)
         Notes_Build_Example();
     return result;
 }

@@ -30,17 +30,11 @@ extern std::array<QString, NoteCategoryCount> Global_NoteCategories;
 extern std::vector<NoteRec> Global_Notes; // 0..50 at first, grown by 50
 extern int Global_LastNoteCategory;       // where the window was closed in this run
 
-// Results of Load_Notes_File beside 0.
-inline constexpr int NotesWrongHeader = -1;
-inline constexpr int NotesUnknownVersion = -2;
-inline constexpr int NotesNotReadable = 53; // no such file, or not to be read
-inline constexpr int NotesDamaged = 62;     // ends too early, or a count makes no sense
-
 // Both tables, all free; no edits are open.
 void Init_Notes();
 // Reads both tables; on a failure they stay as they are. The bytes of a damaged file are kept aside
 // before a later save replaces them.
-int Load_Notes_File(const QString& fileName);
+TableLoad Load_Notes_File(const QString& fileName);
 // Closes the gaps in the table and writes it. The last notes move into the first gaps, so their
 // order changes and an index is good for nothing afterwards: that is meant. False: the file was not
 // replaced ("Error saving notes").
@@ -52,12 +46,6 @@ TableFile& Notes_File();
 // Puts the example notes over the first places of both tables.
 void Notes_Build_Example();
 
-enum class NotesLoad {
-    Loaded,
-    NoFile,         // a new account
-    Invalid,        // to be told: "Error loading notes"
-    UnknownVersion, // to be told: "Error loading notes (file version not supported)"
-};
 // The load at the start of the program: "notes.dat" of the account's folder. Without one, or with
 // one that cannot be read, the examples follow.
-NotesLoad Load_AccountNotes(const QString& accountFolder, const QString& exampleFile);
+TableLoad Load_AccountNotes(const QString& accountFolder, const QString& exampleFile);

@@ -21,17 +21,16 @@ namespace {
 struct Refused {
     std::size_t at;
     std::string bytes;
-    int result;
+    TableLoad result = TableLoad::Invalid;
 };
 
 struct Table {
     const char* name;
     void (*fill)(); // with what stands there when a load has failed
-    int (*load)(const QString&);
+    TableLoad (*load)(const QString&);
     bool (*save)(const QString&);
     TableFile& (*file)();
     std::vector<Refused> refused;
-    int damaged; // the result of a file that is cut behind its header
 };
 
 const std::string NoCount[] = {"\xFF\xFF\xFF\x7F"s, "\xFE\xFF\xFF\xFF"s, "\0\0\0\x80"s};
@@ -50,19 +49,20 @@ const Table tables[] = {
      Load_Reminders,
      Save_Reminders,
      Reminders_File,
-     {{0, "r", -1}, {11, "2", -2}, {16, "rObj000", -2}, {16, "rObJ003", -1}},
-     -1},
+     {{0, "r"},
+      {11, "2", TableLoad::UnknownVersion},
+      {16, "rObj000", TableLoad::UnknownVersion},
+      {16, "rObJ003"}}},
     {"rareminders.dat",
      [] {
          Init_RA_Reminders();
          Add_RA_Reminder(1, 2, 3, 4);
          Add_RA_Reminder(5, 6, 7, 8);
      },
-     [](const QString& file) { return Load_RA_Reminders(file) ? 0 : -1; },
+     Load_RA_Reminders,
      Save_RA_Reminders,
      RA_File,
-     {{0, "r", -1}, {12, NoCount[0], -1}, {12, NoCount[1], -1}, {12, NoCount[2], -1}},
-     -1},
+     {{0, "r"}, {12, NoCount[0]}, {12, NoCount[1]}, {12, NoCount[2]}}},
     {"links.dat",
      [] {
          Global_LinkArray = {{u"0http://a"_s, u"Name"_s, {}, 2},
@@ -71,8 +71,11 @@ const Table tables[] = {
      Load_Links_File,
      Save_Links_File,
      Links_File,
-     {{0, "l", -1}, {15, "2", -2}, {16, NoCount[0], 1}, {16, NoCount[1], 1}, {20, "\xFF\xFF"s, 1}},
-     1},
+     {{0, "l"},
+      {15, "2", TableLoad::UnknownVersion},
+      {16, NoCount[0]},
+      {16, NoCount[1]},
+      {20, "\xFF\xFF"s}}},
     {"notes.dat",
      [] {
          Init_Notes();
@@ -81,8 +84,7 @@ const Table tables[] = {
      Load_Notes_File,
      Save_Notes_File,
      Notes_File,
-     {{0, "n", NotesWrongHeader}, {13, "000", NotesUnknownVersion}},
-     NotesDamaged},
+     {{0, "n"}, {13, "000", TableLoad::UnknownVersion}}},
 };
 
 class TableContract : public testing::Test {
@@ -96,21 +98,22 @@ protected:
         files.content.clear();
         ASSERT_TRUE(table.save(file));
         whole = files.content[file];
-        ASSERT_EQ(table.load(file), 0);
+        ASSERT_EQ(table.load(file), TableLoad::Loaded);
     }
     // What a save writes after a load that failed: of the reminders nothing, of the others what
     // stood there before.
     std::string Standing(const Table& table) const {
         return table.file == Reminders_File ? "RSaveFile001" + std::string(4, '\0') : whole;
     }
-    void Expect_Refused(const Table& table, const std::string& bytes, int result) {
+    void Expect_Refused(const Table& table, const std::string& bytes,
+                        TableLoad result = TableLoad::Invalid) {
         files.content = {{file, bytes}};
         EXPECT_EQ(table.load(file), result);
         ASSERT_TRUE(table.save(file));
         EXPECT_TRUE(files.content[file].starts_with(Standing(table)));
         EXPECT_EQ(files.content[file + u".damaged"_s], bytes);
         EXPECT_EQ(files.content.size(), 2U);
-        ASSERT_EQ(table.load(file), 0);
+        ASSERT_EQ(table.load(file), TableLoad::Loaded);
     }
 
     FakeClock clock;
@@ -133,7 +136,7 @@ TEST_F(TableContract, A_Damaged_File_Is_Refused_Whole_And_Kept) {
         for (std::size_t size = 0; size < whole.size(); ++size) {
             SCOPED_TRACE(size);
             Begin(table);
-            Expect_Refused(table, whole.substr(0, size), size < 13 ? -1 : table.damaged);
+            Expect_Refused(table, whole.substr(0, size));
         }
     }
 }
@@ -155,11 +158,11 @@ TEST_F(TableContract, No_Changed_Byte_And_No_Count_Of_Nonsense_Loses_Anything) {
         for (const std::string& bytes : changed) {
             Begin(table);
             files.content = {{file, bytes}};
-            const bool loaded = table.load(file) == 0;
+            const bool loaded = table.load(file) == TableLoad::Loaded;
             ASSERT_TRUE(table.save(file)) << table.name;
             EXPECT_EQ(files.content.size(), loaded ? 1U : 2U);
             EXPECT_EQ(files.content[file + u".damaged"_s], loaded ? "" : bytes);
-            EXPECT_EQ(table.load(file), 0);
+            EXPECT_EQ(table.load(file), TableLoad::Loaded);
         }
     }
 }
@@ -169,7 +172,7 @@ TEST_F(TableContract, Somebody_Elses_And_A_Damaged_File_Are_Kept_Once_Beside_Ear
         SCOPED_TRACE(table.name);
         Begin(table);
         files.content[file] = "damaged";
-        EXPECT_NE(table.load(file), 0);
+        EXPECT_EQ(table.load(file), TableLoad::Invalid);
         for (const QString& copy : {u".damaged"_s, u".damaged-2"_s}) {
             files.refused.insert(file + copy);
         }
@@ -213,14 +216,16 @@ TEST_F(TableContract, A_Save_That_Fails_Leaves_The_Old_File_And_What_Cannot_Be_R
         disk.bytesLeft = -1;
         for (QStringList* refused : {&disk.refusedWrites, &disk.refusedReads}) {
             refused->append(QLatin1String(table.name));
-            EXPECT_EQ(table.load(path) == 0, refused == &disk.refusedWrites);
+            EXPECT_EQ(table.load(path) == TableLoad::Loaded, refused == &disk.refusedWrites);
             EXPECT_FALSE(table.save(path));
             refused->clear();
             EXPECT_EQ(disk.Read(path), before);
         }
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-        ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path + u"/inside"_s));
-        EXPECT_NE(table.load(path), 0);
+        ASSERT_TRUE(QFile::remove(path));
+        EXPECT_EQ(table.load(path), TableLoad::NoFile);
+        ASSERT_TRUE(QDir().mkpath(path + u"/inside"_s));
+        EXPECT_EQ(table.load(path), TableLoad::Invalid);
         EXPECT_FALSE(table.save(path));
         EXPECT_TRUE(QDir(path + u"/inside"_s).exists());
     }

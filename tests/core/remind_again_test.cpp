@@ -129,7 +129,7 @@ TEST_F(RemindAgain, A_Due_Entry_Is_Delivered_Once_On_Its_Own_Day_Only) {
         Choose_RA(0, 1, 0);
         ASSERT_TRUE(Save_RA_Reminders(queueFile));
         Init_RA_Reminders();
-        ASSERT_TRUE(Load_RA_Reminders(queueFile));
+        ASSERT_EQ(Load_RA_Reminders(queueFile), TableLoad::Loaded);
         clock.Set(2026, 3, day, 23, 0);
         EXPECT_EQ(Check(), day == 3 ? std::vector{1} : std::vector<std::int32_t>());
         EXPECT_EQ(Global_RA_Last, -1);
@@ -172,7 +172,7 @@ TEST_F(RemindAgain, The_File_Holds_The_Entries_And_Its_Old_Tail) {
     ASSERT_TRUE(Save_RA_Reminders(queueFile));
     EXPECT_EQ(files.content[queueFile], header + From_Hex("00000000") + first + second);
     Init_RA_Reminders();
-    ASSERT_TRUE(Load_RA_Reminders(queueFile));
+    ASSERT_EQ(Load_RA_Reminders(queueFile), TableLoad::Loaded);
     EXPECT_EQ(Global_RA_Last, 0);
     EXPECT_EQ(Global_RA_Reminders, (std::vector{RA_Entry{9558, 1201, 7, -2}}));
 }

@@ -26,7 +26,7 @@ std::string Join(const std::vector<std::string>& names) {
     return bytes;
 }
 
-int Load_Record(ReminderClass& reminder, const std::string& bytes) {
+TableLoad Load_Record(ReminderClass& reminder, const std::string& bytes) {
     RecordReader stream(bytes);
     return reminder.LoadData_From_File(stream);
 }
@@ -57,7 +57,8 @@ using ReminderFile = CoreTest;
 
 TEST_F(ReminderFile, Every_Field_Is_Read_From_Its_Bytes) {
     ReminderClass r;
-    ASSERT_EQ(Load_Record(r, Join({"header", "003", "body", "category", "last"})), 0);
+    ASSERT_EQ(Load_Record(r, Join({"header", "003", "body", "category", "last"})),
+              TableLoad::Loaded);
     EXPECT_TRUE(r.rs_Enabled && r.rs_Minimize_Apps && r.rs_REveryDay && r.rs_PlaySound);
     const std::vector<std::int64_t> numbers{r.rs_ID,
                                             r.rs_ID2,
@@ -106,15 +107,17 @@ TEST_F(ReminderFile, Each_Version_Is_Written_As_The_Newest_One) {
                  {{"003", "body", "category", "last"}, {"category", "last"}}};
     for (const auto& version : cases) {
         ReminderClass reminder;
-        ASSERT_EQ(Load_Record(reminder, Join({"header"}) + Join(version.before)), 0);
+        ASSERT_EQ(Load_Record(reminder, Join({"header"}) + Join(version.before)),
+                  TableLoad::Loaded);
         EXPECT_EQ(QByteArray::fromStdString(Record_Bytes(reminder)).toHex(' '),
                   QByteArray::fromStdString(Join({"header", "003", "body"}) + Join(version.after))
                       .toHex(' '));
     }
     ReminderClass reminder;
-    EXPECT_EQ(Load_Record(reminder, "rObj000" + Join({"body"})), -2);
-    EXPECT_EQ(Load_Record(reminder, "rObj004" + Join({"body"})), -2);
-    EXPECT_EQ(Load_Record(reminder, "rObJ003" + Join({"body", "category", "last"})), -1);
+    EXPECT_EQ(Load_Record(reminder, "rObj000" + Join({"body"})), TableLoad::UnknownVersion);
+    EXPECT_EQ(Load_Record(reminder, "rObj004" + Join({"body"})), TableLoad::UnknownVersion);
+    EXPECT_EQ(Load_Record(reminder, "rObJ003" + Join({"body", "category", "last"})),
+              TableLoad::Invalid);
     EXPECT_EQ(Record_Bytes(ReminderClass()).size(), 139U);
 }
 
@@ -148,7 +151,7 @@ TEST_F(ReminderFile, Nonsense_In_Every_Field_Can_Still_Be_Used) {
                 r.DeleteHourSetup(0);
                 const std::string bytes = Record_Bytes(r);
                 ReminderClass again;
-                ASSERT_EQ(Load_Record(again, bytes), 0);
+                ASSERT_EQ(Load_Record(again, bytes), TableLoad::Loaded);
                 again.rs_DayCreated = r.rs_DayCreated; // 0 has become 1
                 EXPECT_EQ(Record_Bytes(again), bytes);
             }

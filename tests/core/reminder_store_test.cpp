@@ -28,11 +28,11 @@ TEST_F(ReminderStore, An_Empty_Table_Is_Sixteen_Bytes_And_A_File_Of_Its_Own) {
     ASSERT_TRUE(Save_Reminders(dataFile));
     EXPECT_EQ(files.content[dataFile], emptyFile);
     files.content[exampleFile] = "anything";
-    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Loaded);
+    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), TableLoad::Loaded);
     EXPECT_EQ(Global_Reminders.size(), 21U);
     // The backup is of the last one that could be loaded.
-    const std::pair<const char*, AccountLoad> cases[] = {
-        {"RSaveFile002", AccountLoad::UnknownVersion}, {"else", AccountLoad::InvalidFile}};
+    const std::pair<const char*, TableLoad> cases[] = {{"RSaveFile002", TableLoad::UnknownVersion},
+                                                       {"else", TableLoad::Invalid}};
     for (const auto& [bytes, result] : cases) {
         files.content[dataFile] = bytes;
         EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), result);
@@ -42,7 +42,7 @@ TEST_F(ReminderStore, An_Empty_Table_Is_Sixteen_Bytes_And_A_File_Of_Its_Own) {
 }
 
 TEST_F(ReminderStore, A_New_Account_Gets_The_Examples_Whatever_They_Are) {
-    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::NoFile);
+    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), TableLoad::NoFile);
     EXPECT_EQ(Global_Reminders.size(), 51U);
     Add_Reminder(4).rs_DateType_Used = DateType::ExactDate; // and no date: for the first day
     ReminderClass& yearly = Add_Reminder(5);
@@ -50,7 +50,7 @@ TEST_F(ReminderStore, A_New_Account_Gets_The_Examples_Whatever_They_Are) {
     yearly.rs_SRDay = 24;
     yearly.rs_SRMonth = 12;
     ASSERT_TRUE(Save_Reminders(exampleFile));
-    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Examples);
+    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), TableLoad::NoFile);
     EXPECT_EQ(Used_Ids(), (std::vector<std::int32_t>{4, 5}));
     EXPECT_EQ(Global_Reminders[1].Reminder->rs_SRYear, 0);
     EXPECT_EQ(Global_Reminders[1].Reminder->GetNext_RunDate(), DateToDay(24, 12, 2026));
@@ -58,7 +58,7 @@ TEST_F(ReminderStore, A_New_Account_Gets_The_Examples_Whatever_They_Are) {
     EXPECT_EQ(Global_Reminders[0].Reminder->GetNext_RunDate(), DateToDay(2, 3, 2026));
     EXPECT_EQ(Global_Reminders[0].Reminder->rs_SRYear, 2026);
     files.content[exampleFile] = "broken";
-    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), AccountLoad::Examples);
+    EXPECT_EQ(Load_AccountReminders(u"/user"_s, exampleFile), TableLoad::NoFile);
     EXPECT_EQ(Global_Reminders.size(), 21U);
     EXPECT_TRUE(Save_Reminders(dataFile));
     EXPECT_EQ(files.content.size(), 2U) << "no backup, nothing damaged of the account";
@@ -91,7 +91,7 @@ TEST_F(ReminderStore, A_Pending_Reminder_Is_Not_Saved_And_A_Too_Long_Text_Saves_
         0, {true, FunctionType::OpenFile, 0, QString(70000, u'x'), {}});
     EXPECT_FALSE(Save_Reminders(dataFile));
     EXPECT_EQ(files.content[dataFile], before);
-    ASSERT_EQ(Load_Reminders(dataFile), 0);
+    ASSERT_EQ(Load_Reminders(dataFile), TableLoad::Loaded);
     EXPECT_EQ(Used_Ids(), (std::vector<std::int32_t>{2}));
 }
 

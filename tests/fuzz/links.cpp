@@ -5,12 +5,12 @@
 
 void Try(Ground& ground) {
     Global_LinkArray.clear();
-    if (Load_Links_File(ground.file) != 0) {
+    if (Load_Links_File(ground.file) != TableLoad::Loaded) {
         return;
     }
     Load_Global_LinksArray();
     Must(Save_Links_File(ground.file));
     const std::string saved = ground.Bytes();
-    Must(Load_Links_File(ground.file) == 0 && Save_Links_File(ground.file));
+    Must(Load_Links_File(ground.file) == TableLoad::Loaded && Save_Links_File(ground.file));
     Must(ground.Bytes() == saved);
 }

@@ -3,11 +3,11 @@
 
 void Try(Ground& ground) {
     Init_Notes();
-    if (Load_Notes_File(ground.file) != 0) {
+    if (Load_Notes_File(ground.file) != TableLoad::Loaded) {
         return;
     }
     Must(Save_Notes_File(ground.file));
     const std::string saved = ground.Bytes();
-    Must(Load_Notes_File(ground.file) == 0 && Save_Notes_File(ground.file));
+    Must(Load_Notes_File(ground.file) == TableLoad::Loaded && Save_Notes_File(ground.file));
     Must(ground.Bytes() == saved);
 }

@@ -5,7 +5,7 @@
 
 void Try(Ground& ground) {
     Init_Reminders();
-    if (Load_Reminders(ground.file) != 0) {
+    if (Load_Reminders(ground.file) != TableLoad::Loaded) {
         return;
     }
     ReminderTick tick;
@@ -22,7 +22,7 @@ void Try(Ground& ground) {
     }
     std::int32_t id2 = 0;
     Get_NewReminderID(id2);
-    Must(Save_Reminders(ground.file) && Load_Reminders(ground.file) == 0);
+    Must(Save_Reminders(ground.file) && Load_Reminders(ground.file) == TableLoad::Loaded);
     const std::string saved = ground.Bytes();
     Must(Save_Reminders(ground.file) && ground.Bytes() == saved);
 }

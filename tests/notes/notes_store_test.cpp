@@ -13,11 +13,11 @@ protected:
                "\0\0\0\0"s + "\xFF\xFF"s + "\x05\0Title"s + "\x04\0a\r\nb"s + "\xE8\x03\0\0"s +
                "\x56\x25\0\0"s + "\x21\x02\0\0"s + "\x01"s;
     }
-    int Load(const std::string& bytes) {
+    TableLoad Load(const std::string& bytes) {
         EXPECT_TRUE(system.files.Replace(File(u"notes.dat"_s), bytes));
         return Load_Notes_File(File(u"notes.dat"_s));
     }
-    NotesLoad Load_Account() {
+    TableLoad Load_Account() {
         return Load_AccountNotes(folder.path(), File(u"examplenotes.dat"_s));
     }
 };
@@ -25,7 +25,7 @@ protected:
 TEST_F(NotesStore, The_bytes_are_those_written_by_hand) {
     ASSERT_TRUE(Save_Notes_File(File(u"empty"_s)));
     EXPECT_EQ(Bytes(u"empty"_s), "NotesSaveFile001"s + std::string(36, '\0') + "\xFF\xFF\xFF\xFF"s);
-    ASSERT_EQ(Load(One_Note()), 0);
+    ASSERT_EQ(Load(One_Note()), TableLoad::Loaded);
     ASSERT_EQ(Global_Notes.size(), 1U);
     EXPECT_EQ(Note_Categories(), 2);
     EXPECT_EQ(Note(0).Text, u"a\r\nb"_s);
@@ -42,24 +42,24 @@ TEST_F(NotesStore, A_new_account_and_a_damaged_one_get_the_examples) {
         Init_Notes();
         EXPECT_TRUE(system.files.Replace(File(u"examplenotes.dat"_s), bytes));
     };
-    EXPECT_EQ(Load_Account(), NotesLoad::NoFile);
+    EXPECT_EQ(Load_Account(), TableLoad::NoFile);
     EXPECT_EQ(Used_Notes(), 3);
     EXPECT_EQ(Note(2).Category, 1);
     Own_Examples(One_Note()); // they are read, and the program's own follow
-    EXPECT_EQ(Load_Account(), NotesLoad::NoFile);
+    EXPECT_EQ(Load_Account(), TableLoad::NoFile);
     EXPECT_EQ(Note(0).Title, u"Example note 1"_s);
     EXPECT_EQ(Global_Notes.size(), 3U);
     Own_Examples("damaged");
     system.files.Replace(File(u"notes.dat"_s), "NotesSaveFile000");
-    EXPECT_EQ(Load_Account(), NotesLoad::UnknownVersion);
+    EXPECT_EQ(Load_Account(), TableLoad::UnknownVersion);
     EXPECT_EQ(Used_Notes(), 0);
     // The examples that failed too do not make it forget the account's own file.
     ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
     EXPECT_EQ(Bytes(u"notes.dat.damaged"_s), "NotesSaveFile000");
     system.files.Replace(File(u"notes.dat"_s), "x");
-    EXPECT_EQ(Load_Account(), NotesLoad::Invalid);
+    EXPECT_EQ(Load_Account(), TableLoad::Invalid);
     system.files.Replace(File(u"notes.dat"_s), One_Note());
-    EXPECT_EQ(Load_Account(), NotesLoad::Loaded);
+    EXPECT_EQ(Load_Account(), TableLoad::Loaded);
     EXPECT_EQ(Used_Notes(), 1);
 }
 
@@ -71,7 +71,7 @@ TEST_F(NotesStore, Saving_moves_the_last_notes_into_the_gaps) {
         Delete_Note(gap);
     ASSERT_TRUE(Save_Notes_File(File(u"notes.dat"_s)));
     Init_Notes();
-    ASSERT_EQ(Load_Notes_File(File(u"notes.dat"_s)), 0);
+    ASSERT_EQ(Load_Notes_File(File(u"notes.dat"_s)), TableLoad::Loaded);
     QString order;
     for (const NoteRec& note : Global_Notes)
         order += note.InUse ? note.Title : u"-"_s;

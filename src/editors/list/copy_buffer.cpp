@@ -31,7 +31,7 @@ PasteResult Read_CopyBuffer(std::unique_ptr<ReminderClass>& reminder) {
     if (!bytes)
         return PasteResult::Damaged;
     RecordReader stream(*bytes);
-    if (pasted->LoadData_From_File(stream) != 0)
+    if (pasted->LoadData_From_File(stream) != TableLoad::Loaded)
         return PasteResult::Damaged;
     pasted->rs_DayCreated = Get_TodayDay();
     pasted->rs_ID = Get_NewReminderID(pasted->rs_ID2);

@@ -16,37 +16,22 @@ constexpr std::string_view FileVersion = "001";
 constexpr std::size_t LeastRowBytes = 7; // three empty texts and the start size
 constexpr std::size_t ProgramRows = 21;
 
-constexpr int WrongHeader = -1;
-constexpr int UnknownVersion = -2;
-constexpr int Damaged = 1;
-
 TableFile File_OfLinks;
 
-int Read_Rows(RecordReader& stream) {
-    if (stream.Get_Header(FileHeader.size()) != FileHeader)
-        return WrongHeader;
-    const std::string_view version = stream.Get_Header(FileVersion.size());
-    if (stream.Failed())
-        return Damaged;
-    if (version != FileVersion)
-        return UnknownVersion;
-    const std::int32_t last = stream.Get_Long();
-    if (stream.Failed() || last < -1)
-        return Damaged;
-    const auto count = static_cast<std::size_t>(last + std::int64_t{1});
-    if (count > stream.Left() / LeastRowBytes)
-        return Damaged;
-    std::vector<LinkRec> rows(count);
+TableLoad Read_Rows(std::string_view content) {
+    RecordReader stream(content);
+    if (const auto result = stream.Get_Start(FileHeader, FileVersion); result != TableLoad::Loaded)
+        return result;
+    std::vector<LinkRec> rows(stream.Get_CountOfLast(LeastRowBytes));
     for (LinkRec& row : rows) {
         row.URL = stream.Get_RecString();
         row.LinkName = stream.Get_RecString();
         row.Description = stream.Get_RecString();
         row.StartSize = stream.Get_Byte();
     }
-    if (stream.Failed())
-        return Damaged;
-    Global_LinkArray = std::move(rows);
-    return 0;
+    if (!stream.Failed())
+        Global_LinkArray = std::move(rows);
+    return stream.Result();
 }
 
 } // namespace
@@ -97,15 +82,8 @@ void Build_Program_Links() {
             QString::fromUtf16(row.Description == nullptr ? row.Caption : row.Description)};
 }
 
-int Load_Links_File(const QString& fileName) {
-    const std::optional<std::string> bytes = File_OfLinks.Read(fileName);
-    int result = Damaged;
-    if (bytes) {
-        RecordReader stream(*bytes);
-        result = Read_Rows(stream);
-    }
-    File_OfLinks.Note_Load(fileName, result == 0);
-    return result;
+TableLoad Load_Links_File(const QString& fileName) {
+    return File_OfLinks.Load(fileName, Read_Rows);
 }
 
 std::optional<std::string> Encode_Links() {

@@ -29,9 +29,8 @@ std::size_t Link_Count(const std::vector<LinkRec>& rows);
 // The first-run rows.
 void Build_Default_Links();
 void Build_Program_Links();
-// 0, -1 not a links file, -2 version not known, or another number for a failed read. After a
-// failure the table is as it was.
-int Load_Links_File(const QString& fileName);
+// After a failure the table is as it was.
+TableLoad Load_Links_File(const QString& fileName);
 // False: nothing was replaced.
 bool Save_Links_File(const QString& fileName);
 // The bytes of that file; nothing when a text is too long for its field.

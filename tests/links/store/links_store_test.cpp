@@ -24,7 +24,7 @@ protected:
         EXPECT_TRUE(Save_Links_File(file));
         return system.files.Read(file).value_or("no such file");
     }
-    int Load(const std::string& bytes) {
+    TableLoad Load(const std::string& bytes) {
         EXPECT_TRUE(system.files.Replace(file, bytes));
         return Load_Links_File(file);
     }
@@ -68,7 +68,7 @@ const std::string TwoRows = Start + "\x01\0\0\0"s + "\x09\0"s + "0http://a" + "\
 
 TEST_F(LinksStore, A_list_is_stored_row_by_row_up_to_the_first_empty_address) {
     EXPECT_EQ(Saved(), Start + "\xFF\xFF\xFF\xFF");
-    EXPECT_EQ(Load(Start + "\xFF\xFF\xFF\xFF"), 0);
+    EXPECT_EQ(Load(Start + "\xFF\xFF\xFF\xFF"), TableLoad::Loaded);
     EXPECT_TRUE(Global_LinkArray.empty());
     const std::vector<LinkRec> rows = {{u"0http://a"_s, u"Name"_s, {}, 2},
                                        {u"@0Category"_s, u"C"_s, u"d"_s, 0}};
@@ -78,7 +78,7 @@ TEST_F(LinksStore, A_list_is_stored_row_by_row_up_to_the_first_empty_address) {
     Build_Program_Links();
     Load_Global_LinksArray(); // the program's own rows are in the tree only
     EXPECT_EQ(Saved(), TwoRows);
-    EXPECT_EQ(Load(TwoRows), 0);
+    EXPECT_EQ(Load(TwoRows), TableLoad::Loaded);
     EXPECT_EQ(Global_LinkArray, rows);
 }
 
