@@ -126,7 +126,7 @@ QStringList TestDesktop::Search(const QStringList& by) const {
         process.setProcessEnvironment(environment);
         process.start(u"xdotool"_s, QStringList{u"search"_s, u"--onlyvisible"_s} + by);
         process.waitForFinished(20000);
-        if (!process.readAllStandardError().contains("BadWindow")) {
+        if (!process.readAllStandardError().contains("X Error")) {
             return QString::fromUtf8(process.readAllStandardOutput())
                 .split(u'\n', Qt::SkipEmptyParts);
         }
