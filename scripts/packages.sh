@@ -1,4 +1,4 @@
-# The Debian packages that each job needs, and their installation. Sourced by run, test and bench.
+# The Debian packages that each job needs, and their installation. Sourced by the scripts.
 
 packages_build="cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libsdl2-dev libsdl2-mixer-dev
   libxcb1-dev libgl-dev libegl-dev"
@@ -8,6 +8,8 @@ packages_test="x11-xserver-utils fonts-dejavu-core libgtest-dev libgmock-dev lib
   wmctrl xclip faketime"
 packages_bench="libbenchmark-dev dbus-daemon"
 packages_check="clang-format-14 clang-tidy-14"
+packages_package="dpkg-dev file"
+packages_package_test="lintian appstream desktop-file-utils man-db"
 packages_fuzz="clang-14 libclang-rt-14-dev"
 
 # need_packages NAME...: installs what is missing. Where it may not, it names the one command.
