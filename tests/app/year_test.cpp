@@ -75,53 +75,22 @@ public:
     bool Play_Tone() override { return true; }
 };
 
-enum class Hours { Once, Twice, Interval, StartUp, StartUpInterval };
-
-// What a reminder was made of, and when it fires by nothing but the calendar.
+// What a reminder was made of, and when it fires by nothing but the calendar. Every kind of day and
+// of hours by itself is the engine's test.
 struct Plan {
     bool enabled = true;
-    DateType kind = DateType::EveryDay;
-    int number = 1; // weekday, length of the cycle, day of the month
-    int month = 1;
-    QDate anchor;
-    QDate notOn; // disabled for that day
-    Hours hours = Hours::Once;
+    int weekday = 0; // none: every day
+    QDate notOn;     // disabled for that day
     int start = 0;
-    int every = 60;
+    int every = 0; // none: once
     int end = 0;
 
     bool Is_On(QDate day) const {
-        if (!enabled || day == notOn) {
-            return false;
-        }
-        switch (kind) {
-        case DateType::EveryDay:
-            return true;
-        case DateType::Weekdays:
-            return day.dayOfWeek() == number;
-        case DateType::EveryXDays:
-            return anchor.daysTo(day) % number == 0;
-        case DateType::ExactDate:
-            return day.month() == month && day.day() == number;
-        case DateType::DayOfMonth:
-            return day.day() == std::min(number, day.daysInMonth());
-        }
-        return false;
+        return enabled && day != notOn && (weekday == 0 || day.dayOfWeek() == weekday);
     }
     bool Is_In(int minute) const {
-        switch (hours) {
-        case Hours::Once:
-            return minute == start;
-        case Hours::Twice:
-            return minute == start || minute == start + 30;
-        case Hours::Interval:
-            return minute >= start && minute <= end && (minute - start) % every == 0;
-        case Hours::StartUp:
-            return minute == 0;
-        case Hours::StartUpInterval:
-            return minute <= end && minute % every == 0;
-        }
-        return false;
+        return minute == start ||
+               (every > 0 && minute > start && minute <= end && (minute - start) % every == 0);
     }
 };
 
@@ -159,38 +128,21 @@ protected:
 
     int Roll(int sides) { return static_cast<int>(dice() % unsigned(sides)); }
 
-    static HourSetup Setup(int start, int every = 0, int end = 0) {
-        return {-1, static_cast<std::int16_t>(start), static_cast<std::int16_t>(end),
-                static_cast<std::int16_t>(every)};
-    }
     static void Set_Hours(const Plan& plan, ReminderClass& reminder) {
         reminder.ClearAllHourSetup();
-        const bool startUp = plan.hours == Hours::StartUp || plan.hours == Hours::StartUpInterval;
-        const bool again = plan.hours == Hours::Interval || plan.hours == Hours::StartUpInterval;
-        reminder.AddNewHourSetup(
-            Setup(startUp ? -1 : plan.start, again ? plan.every : 0, again ? plan.end : 0));
-        if (plan.hours == Hours::Twice) {
-            reminder.AddNewHourSetup(Setup(plan.start + 30));
-        }
+        reminder.AddNewHourSetup({-1, static_cast<std::int16_t>(plan.start),
+                                  static_cast<std::int16_t>(plan.end),
+                                  static_cast<std::int16_t>(plan.every)});
     }
     // One that fires from the given minute of today on.
     void Add(int minute) {
         Plan plan;
-        plan.kind = static_cast<DateType>(std::min(4, Roll(8)));
-        plan.month = 1 + Roll(12);
-        plan.number = plan.kind == DateType::Weekdays     ? 1 + Roll(7)
-                      : plan.kind == DateType::EveryXDays ? 5 + Roll(40)
-                      : plan.kind == DateType::ExactDate  ? 1 + Roll(28)
-                                                          : 1 + Roll(31);
-        if (plan.kind == DateType::ExactDate && Roll(5) == 0) {
-            plan.number = 29;
-            plan.month = 2;
-        }
-        plan.anchor = day.addDays(-Roll(100));
-        plan.hours = minute == 0 ? static_cast<Hours>(Roll(5)) : Hours::Once;
+        plan.weekday = Roll(8);
         plan.start = minute + Roll(1400 - minute);
-        plan.every = 60 + Roll(300);
-        plan.end = plan.start + Roll(1440 - plan.start);
+        if (minute == 0 && Roll(2) == 0) {
+            plan.every = 60 + Roll(300);
+            plan.end = plan.start + Roll(1440 - plan.start);
+        }
         const int id = static_cast<int>(plans.size());
         auto reminder = std::make_unique<ReminderClass>();
         reminder->SetDefaultValues();
@@ -198,16 +150,10 @@ protected:
         reminder->rs_SoundPath = Sounds + QString::number(id);
         reminder->rs_Reminder_Type =
             id % 50 == 0 ? static_cast<ReminderType>(id % 3) : ReminderType::InsideToolbar;
-        reminder->rs_DateType_Used = plan.kind;
+        reminder->rs_DateType_Used = plan.weekday == 0 ? DateType::EveryDay : DateType::Weekdays;
         std::array<std::uint8_t, 8> days{};
-        days[static_cast<std::size_t>(plan.number - 1) % 7] = 1;
+        days[static_cast<std::size_t>(plan.weekday + 6) % 7] = 1;
         reminder->Set_Rs_Rdays(days);
-        reminder->rs_ReDays = static_cast<std::int16_t>(plan.number);
-        reminder->rs_FirstRunDate =
-            DateToDay(plan.anchor.day(), plan.anchor.month(), plan.anchor.year());
-        reminder->rs_SRDay = static_cast<std::uint8_t>(plan.number);
-        reminder->rs_SRMonth = static_cast<std::uint8_t>(plan.month);
-        reminder->rs_REDayOfMonth = plan.number;
         Set_Hours(plan, *reminder);
         const auto slot = static_cast<std::size_t>(Take_FreeReminderSlot());
         Global_Reminders[slot] = {true, false, std::move(reminder)};
@@ -243,7 +189,7 @@ protected:
         } else if (what == 2) {
             reminder->rs_DisabledForToday = Get_TodayDay();
             plan.notOn = day;
-        } else if (plan.hours == Hours::Once && std::abs(plan.start - minute) > 6) {
+        } else if (plan.every == 0 && std::abs(plan.start - minute) > 6) {
             if (what == 3) {
                 plan.enabled = reminder->rs_Enabled = !plan.enabled;
             } else {
