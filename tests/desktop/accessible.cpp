@@ -58,7 +58,6 @@ void Collect(AtspiAccessible* node, std::vector<Control>& into) {
     Control control{.role = Taken(atspi_accessible_get_role_name(node, nullptr)),
                     .name = Taken(atspi_accessible_get_name(node, nullptr)),
                     .place = {},
-                    .enabled = is(ATSPI_STATE_ENABLED),
                     .focused = is(ATSPI_STATE_FOCUSED),
                     .checked = is(ATSPI_STATE_CHECKED)};
     if (control.role == "combo box"_L1) {

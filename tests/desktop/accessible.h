@@ -10,7 +10,6 @@ struct Control {
     QString role; // "push button"
     QString name;
     QRect place; // on the screen, in the program's own pixels
-    bool enabled = false;
     bool focused = false;
     bool checked = false;
 };

@@ -2,8 +2,6 @@
 #include "desktop/driven.h"
 #include "desktop/records.h"
 
-#include <csignal>
-
 namespace {
 
 const QString Wizard = u"Add new reminder"_s;
@@ -81,18 +79,15 @@ TEST_F(Day, One_Of_Each_Type_By_Mouse_Then_Edited_Copied_And_Disabled_For_Today)
     {
         Tockly tockly(desktop, Home());
         Write_File(Reminders(), Reminder_File({}));
-        tockly.Start();
-        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        Bring_Up(tockly);
         for (int type = 0; type < 6; ++type)
             Make_By_Mouse(type, u"Type %1"_s.arg(type));
-        tockly.Signal(SIGTERM);
-        ASSERT_EQ(tockly.Wait_For_End(), 0);
+        ASSERT_EQ(tockly.End(), 0);
         Expect_What_The_Wizard_Made(Saved());
     }
     {
         Tockly tockly(desktop, Home());
-        tockly.Start();
-        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        Bring_Up(tockly);
         Open(List, "View reminders");
         Select(u"Type 0"_s);
         Click(List, {"check box", "Exact date: Every year"});
@@ -134,8 +129,7 @@ TEST_F(Day, One_Of_Each_Type_By_Mouse_Then_Edited_Copied_And_Disabled_For_Today)
         Keys({u"Down"_s, u"Down"_s, u"Return"_s});
         Wait_Until_Gone(u"Reminder"_s);
         Show_Page("Date Setup");
-        tockly.Signal(SIGTERM);
-        ASSERT_EQ(tockly.Wait_For_End(), 0);
+        ASSERT_EQ(tockly.End(), 0);
     }
     const std::vector<SavedReminder> saved = Saved();
     ASSERT_EQ(saved.size(), 7U);
@@ -158,8 +152,7 @@ TEST_F(Day, One_Of_Each_Type_By_Mouse_Then_Edited_Copied_And_Disabled_For_Today)
 TEST_F(Day, The_Same_Without_A_Mouse) {
     Tockly tockly(desktop, Home());
     Write_File(Reminders(), Reminder_File({}));
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Bring_Up(tockly);
     Launch_Again();
     Wait_For_Focus(Strip);
     Keys({u"Tab"_s});
@@ -170,8 +163,7 @@ TEST_F(Day, The_Same_Without_A_Mouse) {
     }
     Keys({u"Tab"_s, u"space"_s});
     Wait_For_Focus(List);
-    tockly.Signal(SIGTERM);
-    ASSERT_EQ(tockly.Wait_For_End(), 0);
+    ASSERT_EQ(tockly.End(), 0);
     Expect_What_The_Wizard_Made(Saved());
 }
 

@@ -1,8 +1,6 @@
 // Reminders that come due while the user is in the middle of something else.
-#include "desktop/program_fixture.h"
+#include "desktop/driven.h"
 #include "desktop/records.h"
-
-#include <csignal>
 
 namespace {
 
@@ -11,7 +9,7 @@ const QString Note = u"Reminder"_s;
 // Places inside a reminder window.
 constexpr QPoint TextStart(10, 10), Options(197, 64), CloseMark(239, 64);
 
-class Interruptions : public Program {
+class Interruptions : public Driven {
 protected:
     void SetUp() override {
 #ifdef __SANITIZE_ADDRESS__
@@ -24,9 +22,7 @@ protected:
                        Reminder_File({{.id = 0, .type = 1, .text = "First"},
                                       {.id = 1, .type = 1, .text = "Second", .startMinute = 601},
                                       {.id = 2, .type = 2, .text = "Third", .startMinute = 601}})));
-        tockly.Set_Environment(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
-        tockly.Set_Environment(u"FAKETIME"_s, u"@2026-11-23 10:00:48"_s);
-        tockly.Set_Environment(u"DONT_FAKE_MONOTONIC"_s, u"1"_s);
+        tockly.Set_Clock(u"10:00:48"_s);
         tockly.Start();
         ASSERT_TRUE(Wait_Until([&] { return Count(Note) == 1; }));
     }
@@ -36,18 +32,11 @@ protected:
             return;
         }
         ASSERT_TRUE(tockly.Is_Running());
-        tockly.Signal(SIGTERM);
-        EXPECT_EQ(tockly.Wait_For_End(), 0);
+        EXPECT_EQ(tockly.End(), 0);
     }
 
-    static QStringList Move_To(QPoint place) {
-        return {u"mousemove"_s, QString::number(place.x()), QString::number(place.y())};
-    }
     QPoint In(const QString& window, QPoint place) const {
         return desktop.Geometry(window).topLeft() + place;
-    }
-    void Click(QPoint place) const {
-        desktop.XDo(Move_To(place) + QStringList{u"click"_s, u"1"_s});
     }
     QString First() const {
         return desktop.Visible_Windows(Note).value(0);
@@ -67,26 +56,22 @@ protected:
             },
             2000));
     }
-    int Windows() const {
-        return static_cast<int>(desktop.Search({u"--class"_s, u"^tockly$"_s}).size());
-    }
 
     Tockly tockly{desktop, Home()};
 };
 
 TEST_F(Interruptions, A_Menu_Opened_In_A_Fade_Stops_No_Fade_And_Stays_Open) {
-    const int before = Windows();
+    const int before = Windows_OfProgram();
     Click(In(First(), Options));
-    ASSERT_TRUE(Wait_Until([&] { return Windows() > before; }));
+    ASSERT_TRUE(Wait_Until([&] { return Windows_OfProgram() > before; }));
     EXPECT_TRUE(Wait_Until([&] { return Is_Opaque(First()); }, 2000));
-    const int withMenu = Windows();
+    const int withMenu = Windows_OfProgram();
     Expect_The_Others_On_View();
-    EXPECT_EQ(Windows(), withMenu + 2) << "the menu is still there";
+    EXPECT_EQ(Windows_OfProgram(), withMenu + 2) << "the menu is still there";
 }
 
 TEST_F(Interruptions, Under_An_Input_Box_Reminders_Come_And_Can_Be_Closed) {
-    Click(desktop.Geometry(Strip_Window()).topLeft() + QPoint(160, 10));
-    ASSERT_TRUE(desktop.Wait_For_Window(u"Notes"_s));
+    Open(u"Notes"_s, "View notes");
     EXPECT_TRUE(Wait_Until([&] {
         desktop.XDo({u"key"_s, u"F2"_s});
         return Count(u"Rename Category"_s) == 1;

@@ -4,7 +4,6 @@
 
 #include <QDir>
 
-#include <csignal>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -24,8 +23,7 @@ protected:
                                                            {.id = 2, .type = 1, .lastRun = 1},
                                                            {.id = 3, .type = 2, .lastRun = 1}})));
         Tockly tockly(desktop, Home());
-        tockly.Start();
-        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        Bring_Up(tockly);
         EXPECT_TRUE(desktop.Wait_For_Window(u"Missed Reminders"_s));
         EXPECT_TRUE(Wait_Until([&] { return Count(u"Reminder"_s) == (type == 0 ? 2 : 3); }));
         EXPECT_TRUE(Wait_Until([&] { return !Any_Fades(); }));
@@ -56,8 +54,7 @@ TEST_F(Launch, Every_User_Of_A_Shared_Folder_Gets_An_Account_That_Saves) {
         tockly.Set_Environment(u"HOME"_s, own);
         tockly.Start(As_User(user));
         EXPECT_TRUE(desktop.Wait_For_Window(Strip));
-        tockly.Signal(SIGTERM);
-        EXPECT_EQ(tockly.Wait_For_End(), 0);
+        EXPECT_EQ(tockly.End(), 0);
         const QString number = QString::number(user - 60000);
         EXPECT_TRUE(QFile::exists(shared + "/User-"_L1 + number + "/reminders.dat"_L1));
     }
@@ -67,8 +64,7 @@ TEST_F(Launch, Every_User_Of_A_Shared_Folder_Gets_An_Account_That_Saves) {
 TEST_F(Launch, A_Second_Launch_Reaches_A_Strip_In_The_Tray_Behind_A_Box_And_Waits_For_The_End) {
     ASSERT_TRUE(Write_File(Reminders(), Reminder_File({{.id = 1}})));
     Tockly first(desktop, Home());
-    first.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Bring_Up(first);
     const QString list = u"Reminders"_s;
     Open(list, "View reminders");
     Click(list, {"list item", "Title"});
@@ -144,38 +140,6 @@ TEST_F(Launch, The_Loss_Of_The_Screen_Beside_A_Clock_Saves_Too) {
         Click(u"Reminders"_s, {"text", "Row 1: until"});
         EXPECT_TRUE(desktop.Wait_For_Window(u"Tockly Clock"_s));
     });
-}
-
-TEST_F(Launch, What_A_Link_Starts_Gets_The_Environment_Of_The_Launch) {
-    const QString script = Home() + "/environment.exe"_L1;
-    const QString written = Home() + "/environment"_L1;
-    Write_File(script, "#!/bin/sh\nenv > '" + (written + ".new"_L1).toUtf8() + "'\nmv '" +
-                           (written + ".new' '"_L1 + written).toUtf8() + "'\n");
-    QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
-    QByteArray links = "LinksSaveFile001";
-    Put(links, 0, 4);
-    for (const QByteArray& text : {"0" + script.toUtf8(), QByteArray("Row"), QByteArray()}) {
-        Put(links, text.size(), 2);
-        links += text;
-    }
-    Put(links, 0, 1);
-    Write_File(Home() + "/User-1/links.dat"_L1, links);
-    Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    Launch_Again();
-    Wait_For_Focus(Strip);
-    const QString strip = Strip_Window();
-    Keys({u"space"_s});
-    EXPECT_TRUE(Wait_Until([&] {
-        const QString active = desktop.XDo({u"getactivewindow"_s});
-        return !active.isEmpty() && active != strip;
-    }));
-    Keys({u"End"_s, u"Return"_s});
-    ASSERT_TRUE(Wait_Until([&] { return QFile::exists(written); }));
-    const QByteArray environment = '\n' + File_Bytes(written);
-    EXPECT_TRUE(environment.contains("\nDISPLAY="));
-    EXPECT_FALSE(environment.contains("\nQT_QPA_PLATFORM="));
 }
 
 } // namespace

@@ -18,10 +18,15 @@ protected:
         Lay_Out();
     }
     // Settings of a program that was started before.
-    void Lay_Out() const {
-        Write_File(Home() + "/HKEY_CURRENT_USER.reg"_L1, "REGEDIT4\r\n\r\n"
-                                                         "[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
-                                                         "\"First Time\"=dword:00000000\r\n");
+    void Lay_Out(const QByteArray& more = {}) const {
+        Write_File(Home() + "/HKEY_CURRENT_USER.reg"_L1,
+                   "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
+                   "\"First Time\"=dword:00000000\r\n" +
+                       more);
+    }
+    void Bring_Up(Tockly& tockly) const {
+        tockly.Start();
+        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
     }
     // The next start is the very first, with its wizard.
     void Forget_Settings() const { QFile::remove(Home() + "/HKEY_CURRENT_USER.reg"_L1); }

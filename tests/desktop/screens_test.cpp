@@ -2,7 +2,7 @@
 #include "desktop/driven.h"
 #include "desktop/records.h"
 
-#include <csignal>
+#include <QSet>
 
 namespace {
 
@@ -39,8 +39,7 @@ protected:
 
 TEST_F(Screens, It_Comes_Above_A_Later_Topmost_Window_But_Not_Above_A_Full_Screen_One) {
     Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Bring_Up(tockly);
     const QString over = Open_Other();
     EXPECT_TRUE(Wait_Until([&] { return Is_Above(Strip_Window(), over); }, 5000));
     desktop.Run({u"wmctrl"_s, u"-r"_s, u"Other"_s, u"-b"_s, u"add,fullscreen"_s});
@@ -55,11 +54,8 @@ TEST_F(Screens, A_Reminder_Window_Comes_Above_The_Text_Box_That_Is_Typed_Into) {
 #endif
     ASSERT_TRUE(Write_File(Reminders(), Reminder_File({{.id = 1, .type = 2, .startMinute = 601}})));
     Tockly tockly(desktop, Home());
-    tockly.Set_Environment(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
-    tockly.Set_Environment(u"FAKETIME"_s, u"@2026-11-23 10:00:50"_s);
-    tockly.Set_Environment(u"DONT_FAKE_MONOTONIC"_s, u"1"_s);
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    tockly.Set_Clock(u"10:00:50"_s);
+    Bring_Up(tockly);
     Click(Strip, {"push button", "Open Textbox"});
     const QString box = Wait_For_Focus(u"Textbox"_s);
     ASSERT_EQ(Count(u"Reminder"_s), 0) << "too early";
@@ -67,6 +63,54 @@ TEST_F(Screens, A_Reminder_Window_Comes_Above_The_Text_Box_That_Is_Typed_Into) {
     const QString reminder = desktop.Visible_Windows(u"Reminder"_s).value(0);
     EXPECT_TRUE(Wait_Until([&] { return Is_Above(reminder, box); }, 5000));
     EXPECT_EQ(desktop.XDo({u"getactivewindow"_s}), box);
+}
+
+TEST_F(Screens, Reminder_Windows_Stand_In_Their_Places_And_Leave_The_Focus_Where_It_Is) {
+    // 345 pixels are free on each side: one window of 254 with the 20 that may be cut.
+    ASSERT_TRUE(Write_File(Reminders(), Reminder_File({{.id = 1, .type = 1},
+                                                       {.id = 2, .type = 1},
+                                                       {.id = 3, .type = 1},
+                                                       {.id = 4, .type = 2}})));
+    const QString window = Open_Other();
+    desktop.XDo({u"windowactivate"_s, u"--sync"_s, window});
+    Tockly tockly(desktop, Home());
+    Bring_Up(tockly);
+    const QString note = u"Reminder"_s;
+    ASSERT_TRUE(Wait_Until([&] { return Count(note) == 3; }));
+    QSet<QPoint> places;
+    for (const QString& shown : desktop.Visible_Windows(note)) {
+        places.insert(desktop.Geometry(shown).topLeft());
+        const QString state = desktop.Property(shown, u"_NET_WM_STATE"_s);
+        EXPECT_TRUE(state.contains(u"_ABOVE"_s) && state.contains(u"_SKIP_TASKBAR"_s))
+            << qPrintable(state);
+    }
+    EXPECT_EQ(places, (QSet<QPoint>{{345 - 254, 0}, {345 + 333, 0}, {385, 345}}));
+    EXPECT_EQ(desktop.XDo({u"getactivewindow"_s}), window);
+    EXPECT_EQ(tockly.End(), 0) << "open at the end, they hold nothing up";
+}
+
+TEST_F(Screens, Hidden_In_The_Tray_A_Second_Launch_Brings_It_Back_And_The_End_Keeps_Its_Place) {
+    const QRect place(345, 0, 333, 20);
+    const auto stands = [&] {
+        return Wait_Until([&] { return desktop.Geometry(Strip_Window()) == place; });
+    };
+    Tockly tockly(desktop, Home());
+    Bring_Up(tockly);
+    for (int round = 0; round < 2; ++round) {
+        ASSERT_TRUE(Hide_Completely());
+        Launch_Again();
+        ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+        EXPECT_TRUE(stands());
+        const QString state = desktop.Property(Strip_Window(), u"_NET_WM_STATE"_s);
+        for (const QString& wanted : {u"_ABOVE"_s, u"_SKIP_TASKBAR"_s, u"_SKIP_PAGER"_s}) {
+            EXPECT_TRUE(state.contains(wanted)) << qPrintable(state);
+        }
+    }
+    ASSERT_TRUE(Hide_Completely());
+    EXPECT_EQ(tockly.End(), 0);
+    Tockly again(desktop, Home());
+    Bring_Up(again);
+    EXPECT_TRUE(stands());
 }
 
 TEST_F(Screens, It_Is_On_Every_Workspace_And_A_Second_Launch_Focuses_It_There) {
@@ -122,45 +166,29 @@ TEST_F(Screens, On_Two_Monitors_It_Starts_On_The_Primary_One_And_Everything_Goes
         // Its monitor goes.
         desktop.Run({u"xrandr"_s, u"--delmonitor"_s, u"Other"_s});
         EXPECT_TRUE(isOn(Strip, row.primary));
-        tockly.Signal(SIGTERM);
-        EXPECT_EQ(tockly.Wait_For_End(), 0);
+        EXPECT_EQ(tockly.End(), 0);
     }
 }
 
 TEST_F(Screens, Nobody_Sizes_It_And_A_Place_Off_The_Screen_Is_Not_Taken) {
-    ASSERT_TRUE(Write_File(Home() + "/HKEY_CURRENT_USER.reg"_L1,
-                           "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\Tockly]\r\n"
-                           "\"First Time\"=dword:00000000\r\n"
-                           "\"Global_Config_MainForm_Left\"=dword:00007530\r\n"));
+    Lay_Out("\"Global_Config_MainForm_Left\"=dword:00007530\r\n");
     Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Bring_Up(tockly);
     const QRect place(691, 0, 333, 20);
     EXPECT_TRUE(Wait_Until([&] { return desktop.Geometry(Strip_Window()) == place; }));
     desktop.Run({u"wmctrl"_s, u"-r"_s, Strip, u"-b"_s, u"add,maximized_vert,maximized_horz"_s});
     EXPECT_FALSE(Wait_Until([&] { return desktop.Geometry(Strip_Window()) != place; }, 1500));
 }
 
-TEST_F(Screens, Minimised_With_The_Mouse_It_Gives_The_Keyboard_Back) {
+TEST_F(Screens, Minimised_With_The_Mouse_It_Gives_The_Keyboard_Back_And_A_Click_Brings_It_Back) {
     Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
+    Bring_Up(tockly);
     Open(u"Notes"_s, "View notes");
     Click(Strip, CloseButton);
-    EXPECT_TRUE(Wait_Until([&] { return desktop.Geometry(Strip_Window()).height() == 8; }));
+    EXPECT_TRUE(Wait_Until([&] { return Is_Collapsed(); }));
     Wait_For_Focus(u"Notes"_s);
-}
-
-TEST_F(Screens, After_A_Menu_Opened_By_Keyboard_The_Strip_Has_The_Focus) {
-    Tockly tockly(desktop, Home());
-    tockly.Start();
-    ASSERT_TRUE(desktop.Wait_For_Window(Strip));
-    Launch_Again();
-    Wait_For_Focus(Strip);
-    Keys({u"space"_s});
-    Wait_For_Focus(u"My Links"_s);
-    Keys({u"Escape"_s});
-    Wait_For_Focus(Strip);
+    Click_Rest();
+    EXPECT_TRUE(Wait_Until([&] { return desktop.Geometry(Strip_Window()).height() == 20; }));
 }
 
 } // namespace

@@ -174,13 +174,6 @@ QString TestDesktop::Property(const QString& window, const QString& name) const 
     return Run({u"xprop"_s, u"-id"_s, window, name});
 }
 
-QString TestDesktop::Pixel(int x, int y) const {
-    const QString text = Run({u"import"_s, u"-window"_s, u"root"_s, u"-crop"_s,
-                              u"1x1+%1+%2"_s.arg(x).arg(y), u"-depth"_s, u"8"_s, u"txt:-"_s});
-    static const QRegularExpression colour(u"#([0-9A-F]{6})"_s);
-    return u'#' + colour.match(text).captured(1);
-}
-
 int TestDesktop::Colours(const QRect& area) const {
     return Run({u"import"_s, u"-window"_s, u"root"_s, u"-crop"_s,
                 u"%1x%2+%3+%4"_s.arg(area.width()).arg(area.height()).arg(area.x()).arg(area.y()),
@@ -204,6 +197,12 @@ Tockly::~Tockly() {
 
 void Tockly::Set_Environment(const QString& name, const QString& value) {
     environment.insert(name, value);
+}
+
+void Tockly::Set_Clock(const QString& time) {
+    environment.insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
+    environment.insert(u"FAKETIME"_s, "@2026-11-23 "_L1 + time);
+    environment.insert(u"DONT_FAKE_MONOTONIC"_s, u"1"_s);
 }
 
 void Tockly::Start(const QStringList& through) {
@@ -231,6 +230,11 @@ int Tockly::Wait_For_End(int milliseconds) {
         return -1;
     }
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+int Tockly::End() {
+    Signal(SIGTERM);
+    return Wait_For_End();
 }
 
 QString Registry_Value(const QString& home, const QString& file, const QString& name) {

@@ -41,8 +41,6 @@ public:
     QString Spoken(const QString& window) const;
     QRect Geometry(const QString& window) const;
     QString Property(const QString& window, const QString& name) const;
-    // Colour of a pixel of the screen as "#RRGGBB".
-    QString Pixel(int x, int y) const;
     // How many different colours a part of the screen has.
     int Colours(const QRect& area) const;
 
@@ -65,13 +63,16 @@ public:
     // Another build of it can be named.
     static QString Path();
     void Set_Environment(const QString& name, const QString& value);
+    // Of one day, running on from there.
+    void Set_Clock(const QString& time);
     // Runs the program through another one: {"setpriv", ...}.
     void Start(const QStringList& through = {});
     void Signal(int number);
     bool Is_Running();
     // The exit code; -1 when it did not end in time or crashed.
     int Wait_For_End(int milliseconds = 20000);
-    qint64 Process_Id() const { return process.processId(); }
+    // Asks it to end.
+    int End();
 
 private:
     QProcess process;
