@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/clock.h"
+#include "support/provided.h"
 
 #include <QDateTime>
 #include <QPointer>
@@ -11,11 +12,8 @@
 #include <utility>
 #include <vector>
 
-class FakeClock : public platform::Clock {
+class FakeClock : public Provided<platform::Clock> {
 public:
-    FakeClock() : before(platform::Clock::Provide(this)) {}
-    ~FakeClock() override { platform::Clock::Provide(before); }
-
     void Set(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
         now = QDateTime(QDate(year, month, day), QTime(hour, minute, second), Qt::UTC);
         Tell_OfStep();
@@ -96,7 +94,6 @@ private:
         ticks += static_cast<std::uint32_t>(step);
     }
 
-    platform::Clock* before;
     QDateTime now{QDate(2026, 3, 2), QTime(9, 0), Qt::UTC};
     std::uint32_t ticks = 1000;
     qint64 passed = 0; // since the test began

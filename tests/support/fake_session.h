@@ -1,4 +1,4 @@
-// A user that the test names, and an end of the session that the test brings about.
+// A user that the test names; the session goes on.
 #pragma once
 
 #include "platform/session.h"
@@ -17,15 +17,6 @@ public:
 
 class FakeSessionEnd : public Provided<platform::SessionEnd> {
 public:
-    std::function<void(platform::EndReason)> handler;
-
-    void End(platform::EndReason reason) {
-        if (handler) {
-            handler(reason);
-        }
-    }
-    void Watch(std::function<void(platform::EndReason)> asked) override {
-        handler = std::move(asked);
-    }
-    void Stop_Watching() override { handler = nullptr; }
+    void Watch(std::function<void(platform::EndReason)>) override {}
+    void Stop_Watching() override {}
 };

@@ -14,7 +14,6 @@ public:
 
     // Every change under this root fails from now on; reading goes on.
     void Refuse(Root root) { refused.insert(root); }
-    void Allow(Root root) { refused.erase(root); }
     std::set<Root> unreadable;
     std::map<Root, platform::RegistryTree> trees;
     int changes = 0; // that succeeded

@@ -12,7 +12,6 @@ public:
 
     QStringList commands; // every string sent, in order
     QStringList refused;  // a command that holds one of these texts, without case, fails
-    bool hasOutput = true;
     int tones = 0;
 
     int Send_String(const QString& command) override {
@@ -30,10 +29,7 @@ public:
     QString Short_Path(const QString& file) override {
         return shortened.isEmpty() ? file : shortened;
     }
-    bool Play_Tone() override {
-        tones += hasOutput ? 1 : 0;
-        return hasOutput;
-    }
+    bool Play_Tone() override { return ++tones > 0; }
 
     QString shortened; // what Short_Path gives; empty: the path itself
 };

@@ -14,29 +14,23 @@ public:
         bool topmost = false;
         bool leftTaskBar = false;
         bool keepsPlace = false;
-        bool everywhere = false;
         bool shadow = false;
         std::optional<int> alpha;
         std::vector<int> alphas; // every one set, in order
         int activations = 0;
         int topmostCalls = 0;
-        int raises = 0;
-        int focusGivenBack = 0;
     };
     std::map<platform::WindowId, State> windows;
-    std::function<void()> restacked;
 
     void Set_Topmost(platform::WindowId window, bool topmost) override {
         windows[window].topmost = topmost;
         ++windows[window].topmostCalls;
     }
-    void Raise(platform::WindowId window, platform::RaiseOver) override {
-        ++windows[window].raises;
-    }
-    void On_Restack(std::function<void()> handler) override { restacked = std::move(handler); }
-    void Show_Everywhere(platform::WindowId window) override { windows[window].everywhere = true; }
+    void Raise(platform::WindowId, platform::RaiseOver) override {}
+    void On_Restack(std::function<void()>) override {}
+    void Show_Everywhere(platform::WindowId) override {}
     void Stay_Quiet(platform::WindowId) override {}
-    void Give_FocusBack(platform::WindowId window) override { ++windows[window].focusGivenBack; }
+    void Give_FocusBack(platform::WindowId) override {}
     void Leave_TaskBar(platform::WindowId window) override { windows[window].leftTaskBar = true; }
     void Keep_Place(platform::WindowId window) override { windows[window].keepsPlace = true; }
     void Activate(platform::WindowId window) override { ++windows[window].activations; }

@@ -8,7 +8,6 @@
 #include <QStringList>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <deque>
 #include <functional>
 #include <vector>
@@ -22,7 +21,6 @@ public:
         Kind kind = Kind::Message;
         QString text; // the prompt of an input box, the title of a file dialog
         platform::BoxStyle style = platform::BoxStyle::Information;
-        bool withCancel = false;
         QString title;
         QString start;  // text or folder that the box opens with
         QString filter; // of a file dialog
@@ -55,18 +53,14 @@ public:
     void Expect_Open_File(const QString& title, std::optional<QString> answer, int filter = 0) {
         script.push_back({Kind::Open_File, title, {}, {}, {}, std::move(answer), filter});
     }
-    int Messages() const {
-        return static_cast<int>(std::count_if(
-            shown.begin(), shown.end(), [](const Box& box) { return box.kind == Kind::Message; }));
-    }
 
     void Show_Message(const QString& text, const platform::BoxLook& look) override {
-        Show({Kind::Message, text, look.Style, false, look.Title, {}, {}});
+        Show({Kind::Message, text, look.Style, look.Title, {}, {}});
     }
     void Notice(const QString& text, platform::BoxStyle) override { notices.append(text); }
     platform::Answer Question(const QString& text, bool withCancel,
                               const platform::BoxLook& look) override {
-        const Step step = Show({Kind::Question, text, look.Style, withCancel, look.Title, {}, {}});
+        const Step step = Show({Kind::Question, text, look.Style, look.Title, {}, {}});
         if (step.answer == platform::Answer::Cancel && !withCancel) {
             return platform::Answer::No;
         }
@@ -74,7 +68,7 @@ public:
     }
     void Input(QWidget* /*owner*/, const QString& prompt, const QString& title, const QString& text,
                std::function<void(const QString&)> taken) override {
-        const Step step = Show({Kind::Input, prompt, {}, false, title, text, {}});
+        const Step step = Show({Kind::Input, prompt, {}, title, text, {}});
         if (step.line) {
             taken(*step.line);
         }
@@ -82,7 +76,7 @@ public:
     void Open_File(QWidget* /*owner*/, const QString& title, const QString& folder,
                    const QString& filter,
                    std::function<void(const platform::ChosenFile&)> taken) override {
-        const Step step = Show({Kind::Open_File, title, {}, false, title, folder, filter});
+        const Step step = Show({Kind::Open_File, title, {}, title, folder, filter});
         if (step.line) {
             taken({*step.line, step.filter});
         }
