@@ -27,7 +27,7 @@ protected:
     QString sound = folder.filePath(u"ding dong.wav"_s);
 };
 
-TEST_F(Deliver, A_sound_is_opened_played_and_ended_by_the_next) {
+TEST_F(Deliver, A_Sound_Is_Opened_Played_And_Ended_By_The_Next) {
     Global_MciCounter = 0;
     media.shortened = u"S"_s;
     EXPECT_EQ(Play(u"  "_s + sound + u" "_s), u"OPEN S TYPE MPEGVideo ALIAS a0|"
@@ -44,7 +44,7 @@ TEST_F(Deliver, A_sound_is_opened_played_and_ended_by_the_next) {
     EXPECT_EQ(desktop.beeps, 0);
 }
 
-TEST_F(Deliver, Only_a_reminder_without_a_file_beeps) {
+TEST_F(Deliver, Only_A_Reminder_Without_A_File_Beeps) {
     const std::int32_t counter = Global_MciCounter;
     EXPECT_EQ(Play(sound + u"x"_s) + Play(u"   "_s) + Play(QString(), false), QString());
     EXPECT_EQ(desktop.beeps, 0);
@@ -53,7 +53,7 @@ TEST_F(Deliver, Only_a_reminder_without_a_file_beeps) {
     EXPECT_EQ(Global_MciCounter, counter);
 }
 
-TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
+TEST_F(Deliver, The_Type_Chooses_The_Way_And_An_Unknown_One_Shows_Nothing) {
     struct Case {
         const char* name;
         int type;
@@ -89,7 +89,7 @@ TEST_F(Deliver, The_type_chooses_the_way_and_an_unknown_one_shows_nothing) {
     EXPECT_EQ(desktop.beeps, 0);
 }
 
-TEST_F(Deliver, Reminders_that_share_a_pair_are_all_shown_and_found_again) {
+TEST_F(Deliver, Reminders_That_Share_A_Pair_Are_All_Shown_And_Found_Again) {
     const auto Shown = [](const auto& entries, auto isUsed) {
         return std::count_if(entries.begin(), entries.end(), isUsed);
     };
@@ -119,7 +119,7 @@ TEST_F(Deliver, Reminders_that_share_a_pair_are_all_shown_and_found_again) {
     EXPECT_NE(Reminder(1).rs_ID, 0);
 }
 
-TEST_F(Deliver, Of_a_thousand_at_once_each_is_reached_once) {
+TEST_F(Deliver, Of_A_Thousand_At_Once_Each_Is_Reached_Once) {
     for (const ReminderType type : {ReminderType::NextToToolbar, ReminderType::Centered}) {
         Unload_ReminderWindows();
         Start_Afresh(9, 0, 0);

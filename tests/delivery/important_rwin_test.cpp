@@ -51,7 +51,7 @@ protected:
     FakeMenu menu;
 };
 
-TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) {
+TEST_F(ReminderWindow, A_Long_Caption_Is_Shortened_And_Stands_Whole_In_The_Tip) {
     const QString longCaption = u"Read <b>what</b> the whole neighbourhood has written"_s;
     const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
     Reminder(index).SetFuncion(1, {true, FunctionType::OpenFile, 0, u"/file"_s, longCaption});
@@ -69,7 +69,7 @@ TEST_F(ReminderWindow, A_long_caption_is_shortened_and_stands_whole_in_the_tip) 
     EXPECT_EQ(buttons[1]->width(), 160);
 }
 
-TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
+TEST_F(ReminderWindow, Only_A_Text_Higher_Than_Its_Box_Has_A_Scroll_Bar) {
     const std::tuple<const char*, QString, bool> cases[] = {
         {"three lines of 13 pixels", u"A\r\nB\r\nC"_s, false},
         {"four lines", u"A\r\nB\r\nC\r\nD"_s, true},
@@ -90,7 +90,7 @@ TEST_F(ReminderWindow, Only_a_text_higher_than_its_box_has_a_scroll_bar) {
     }
 }
 
-TEST_F(ReminderWindow, It_comes_above_the_others_without_the_focus_and_can_be_left_by_keyboard) {
+TEST_F(ReminderWindow, It_Comes_Above_The_Others_Without_The_Focus_And_Can_Be_Left_By_Keyboard) {
     frmImportantRWin* window = Show(Add_Typed(u"Tea is ready"_s, ReminderType::NextToToolbar));
     const RecordingWindows::State& state = windows.windows[window->winId()];
     EXPECT_TRUE(state.topmost && state.leftTaskBar && window->isVisible());
@@ -106,7 +106,7 @@ TEST_F(ReminderWindow, It_comes_above_the_others_without_the_focus_and_can_be_le
     EXPECT_EQ(Global_PendingUnloads.size(), 1U);
 }
 
-TEST_F(ReminderWindow, Actions_open_their_targets_and_a_failure_names_them) {
+TEST_F(ReminderWindow, Actions_Open_Their_Targets_And_A_Failure_Names_Them) {
     using platform::ShowState;
     const std::int32_t index = Add_Typed(u"text"_s, ReminderType::NextToToolbar);
     Set_Actions(index, 3);
@@ -126,7 +126,7 @@ TEST_F(ReminderWindow, Actions_open_their_targets_and_a_failure_names_them) {
     EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(ReminderWindow, Those_that_wait_come_in_turn_and_deleted_ones_are_passed_over) {
+TEST_F(ReminderWindow, Those_That_Wait_Come_In_Turn_And_Deleted_Ones_Are_Passed_Over) {
     struct Case {
         const char* name;
         std::vector<std::int32_t> deleted; // slots, last first
@@ -164,7 +164,7 @@ TEST_F(ReminderWindow, Those_that_wait_come_in_turn_and_deleted_ones_are_passed_
     }
 }
 
-TEST_F(ReminderWindow, A_window_at_the_bottom_grows_upward_with_the_next_reminder) {
+TEST_F(ReminderWindow, A_Window_At_The_Bottom_Grows_Upward_With_The_Next_Reminder) {
     desktop.screen = {300, 600};
     toolbar.bounds = {0, 580, 20, 600};
     for (int number = 0; number < 2; ++number) {
@@ -180,7 +180,7 @@ TEST_F(ReminderWindow, A_window_at_the_bottom_grows_upward_with_the_next_reminde
 }
 
 TEST_F(ReminderWindow,
-       A_closed_one_makes_room_at_once_and_a_reminder_that_fires_again_comes_again) {
+       A_Closed_One_Makes_Room_At_Once_And_A_Reminder_That_Fires_Again_Comes_Again) {
     const std::int32_t index = Add_Typed(u"again"_s, ReminderType::Centered);
     Deliver_Reminder(Ref(index));
     Deliver_Reminder(Ref(index));
@@ -196,7 +196,7 @@ TEST_F(ReminderWindow,
     EXPECT_TRUE(Global_CenterWindows[0].Used);
 }
 
-TEST_F(ReminderWindow, It_leaves_an_open_menu_open) {
+TEST_F(ReminderWindow, It_Leaves_An_Open_Menu_Open) {
     for (const bool fades : {false, true}) {
         Global_IsWinXP = Global_UseTransparency = fades;
         QMenu popup;
@@ -210,7 +210,7 @@ TEST_F(ReminderWindow, It_leaves_an_open_menu_open) {
     Release_Transparency();
 }
 
-TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
+TEST_F(ReminderWindow, It_May_Close_And_Vanish_While_It_Fades_In) {
     Global_IsWinXP = Global_UseTransparency = true;
     timers.Start_FirstTimers();
     for (int number = 0; number < 2; ++number)
@@ -236,7 +236,7 @@ TEST_F(ReminderWindow, It_may_close_and_vanish_while_it_fades_in) {
     Release_Transparency();
 }
 
-TEST_F(ReminderWindow, At_the_end_of_the_program_its_buttons_do_nothing_more) {
+TEST_F(ReminderWindow, At_The_End_Of_The_Program_Its_Buttons_Do_Nothing_More) {
     frmImportantRWin* window = Show_Queue(2, ReminderType::NextToToolbar);
     Set_Program_Ending(true);
     for (wbButton* button : Buttons_Of(window))
@@ -249,7 +249,7 @@ TEST_F(ReminderWindow, At_the_end_of_the_program_its_buttons_do_nothing_more) {
     EXPECT_FALSE(Global_NearWindows[0].Used || Global_NearWindows[1].Used);
 }
 
-TEST_F(ReminderWindow, The_menu_sees_the_reminder_and_may_take_the_window_away) {
+TEST_F(ReminderWindow, The_Menu_Sees_The_Reminder_And_May_Take_The_Window_Away) {
     const std::int32_t index = Add_Typed(u"menu"_s, ReminderType::NextToToolbar);
     frmImportantRWin* window = Show(index);
     wbButton* options = Buttons_Of(window)[0];
@@ -264,7 +264,7 @@ TEST_F(ReminderWindow, The_menu_sees_the_reminder_and_may_take_the_window_away) 
     Click(Buttons_Of(window)[0]);
 }
 
-TEST_F(ReminderWindow, An_answer_goes_on_to_the_next_unless_the_reminder_is_gone) {
+TEST_F(ReminderWindow, An_Answer_Goes_On_To_The_Next_Unless_The_Reminder_Is_Gone) {
     frmImportantRWin* window = Show_Queue(3, ReminderType::NextToToolbar);
     Reminder(0).rs_Enabled = true;
     Answer_Window(*window, ReminderAnswer::Disable);

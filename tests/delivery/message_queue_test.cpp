@@ -28,7 +28,7 @@ protected:
     bool Timer_Runs() const { return timers.Is_Enabled(TimerName::S_Reminder_Timer); }
 };
 
-TEST_F(MessageQueue, A_text_passes_a_pixel_a_tick_and_stands_still_while_its_menu_is_open) {
+TEST_F(MessageQueue, A_Text_Passes_A_Pixel_A_Tick_And_Stands_Still_While_Its_Menu_Is_Open) {
     EXPECT_FALSE(Timer_Runs());
     Show(u"a\r\nbc\rd"_s);
     EXPECT_TRUE(Timer_Runs());
@@ -46,7 +46,7 @@ TEST_F(MessageQueue, A_text_passes_a_pixel_a_tick_and_stands_still_while_its_men
     EXPECT_EQ(toolbar.shown, 2);
 }
 
-TEST_F(MessageQueue, A_new_message_goes_first_and_then_each_has_one_turn_a_round) {
+TEST_F(MessageQueue, A_New_Message_Goes_First_And_Then_Each_Has_One_Turn_A_Round) {
     const std::int32_t first = Show(u"A"_s);
     Show(u"B"_s);
     Show(u"C"_s);
@@ -56,7 +56,7 @@ TEST_F(MessageQueue, A_new_message_goes_first_and_then_each_has_one_turn_a_round
     EXPECT_EQ(Next_Texts(8), u"DBCABCDA"_s);
 }
 
-TEST_F(MessageQueue, A_message_ends_with_its_first_pass_that_ends_after_five_minutes) {
+TEST_F(MessageQueue, A_Message_Ends_With_Its_First_Pass_That_Ends_After_Five_Minutes) {
     struct Case {
         const char* name;
         int hour, minute, second;
@@ -82,7 +82,7 @@ TEST_F(MessageQueue, A_message_ends_with_its_first_pass_that_ends_after_five_min
     EXPECT_TRUE(Any_MessageActive());
 }
 
-TEST_F(MessageQueue, The_menu_changes_the_reminder_and_takes_the_message_away_in_one_tick) {
+TEST_F(MessageQueue, The_Menu_Changes_The_Reminder_And_Takes_The_Message_Away_In_One_Tick) {
     const std::int32_t today = Show(u"today"_s);
     const std::int32_t disabled = Show(u"off"_s);
     const std::int32_t later = Show(u"later"_s);
@@ -115,7 +115,7 @@ TEST_F(MessageQueue, The_menu_changes_the_reminder_and_takes_the_message_away_in
         Answer_Message(index, ReminderAnswer::Ok);
 }
 
-TEST_F(MessageQueue, Texts_of_any_length_are_measured_once_and_the_table_grows) {
+TEST_F(MessageQueue, Texts_Of_Any_Length_Are_Measured_Once_And_The_Table_Grows) {
     Show(QString());
     Tick(12); // an empty text takes the width of the line
     EXPECT_EQ(line.puts.size(), 2);

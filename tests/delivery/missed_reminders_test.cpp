@@ -46,7 +46,7 @@ protected:
     }
 };
 
-TEST_F(Missed, What_was_and_what_was_not_run_while_the_program_was_closed) {
+TEST_F(Missed, What_Was_And_What_Was_Not_Run_While_The_Program_Was_Closed) {
     struct Case {
         const char* name;
         Day created;
@@ -85,7 +85,7 @@ TEST_F(Missed, What_was_and_what_was_not_run_while_the_program_was_closed) {
     }
 }
 
-TEST_F(Missed, Rows_stand_newest_first_and_in_the_order_of_the_table_within_a_day) {
+TEST_F(Missed, Rows_Stand_Newest_First_And_In_The_Order_Of_The_Table_Within_A_Day) {
     ReminderClass& old = Add(u"once\r\nlong ago"_s, DateType::ExactDate);
     old.rs_SRLongday = Today - 21;
     old.rs_SRDay = 9;
@@ -99,7 +99,7 @@ TEST_F(Missed, Rows_stand_newest_first_and_in_the_order_of_the_table_within_a_da
     EXPECT_EQ(Reminder(2).rs_LastExecutedDate, TodaySerial);
 }
 
-TEST_F(Missed, The_window_stands_beside_the_toolbar_and_on_the_screen) {
+TEST_F(Missed, The_Window_Stands_Beside_The_Toolbar_And_On_The_Screen) {
     struct Case {
         const char* name;
         int rows, widest;
@@ -121,7 +121,7 @@ TEST_F(Missed, The_window_stands_beside_the_toolbar_and_on_the_screen) {
             << row.name;
 }
 
-TEST_F(Missed, A_row_is_delivered_by_a_double_click_and_by_Enter) {
+TEST_F(Missed, A_Row_Is_Delivered_By_A_Double_Click_And_By_Enter) {
     desktop.screen = {800, 600};
     LoadAndShow_MissedReminders();
     ASSERT_NE(Window(), nullptr);
@@ -153,7 +153,7 @@ TEST_F(Missed, A_row_is_delivered_by_a_double_click_and_by_Enter) {
     EXPECT_FALSE(Window()->isVisible());
 }
 
-TEST_F(Missed, What_a_sleep_swallowed_is_listed_once_and_not_again_at_the_next_start) {
+TEST_F(Missed, What_A_Sleep_Swallowed_Is_Listed_Once_And_Not_Again_At_The_Next_Start) {
     Add(u"daily"_s, DateType::EveryDay);
     const auto Shown = [] {
         QStringList rows;

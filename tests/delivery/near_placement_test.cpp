@@ -51,7 +51,7 @@ std::string Edges(const std::vector<NearWindowEntry>& table) {
     return edges;
 }
 
-TEST(NearPlacement, Fifteen_reminders_fill_the_sides_and_then_wait_in_turn) {
+TEST(NearPlacement, Fifteen_Reminders_Fill_The_Sides_And_Then_Wait_In_Turn) {
     for (const Case& row : Cases) {
         SCOPED_TRACE(row.name);
         const std::size_t windows = row.lefts.size();
@@ -81,7 +81,7 @@ TEST(NearPlacement, Fifteen_reminders_fill_the_sides_and_then_wait_in_turn) {
 }
 
 // On the second of two screens the same as on the first.
-TEST(NearPlacement, A_window_is_at_most_20_pixels_over_any_edge_of_the_toolbars_screen) {
+TEST(NearPlacement, A_Window_Is_At_Most_20_Pixels_Over_Any_Edge_Of_The_Toolbars_Screen) {
     const struct {
         const char* name;
         ToolbarRect toolbar;
@@ -107,7 +107,7 @@ TEST(NearPlacement, A_window_is_at_most_20_pixels_over_any_edge_of_the_toolbars_
     }
 }
 
-TEST(NearPlacement, Windows_that_closed_leave_their_place_to_the_next) {
+TEST(NearPlacement, Windows_That_Closed_Leave_Their_Place_To_The_Next) {
     Case row = Cases[9];
     std::vector<NearWindowEntry> table(21);
     for (int number = 0; number < 4; ++number)
@@ -123,7 +123,7 @@ TEST(NearPlacement, Windows_that_closed_leave_their_place_to_the_next) {
     EXPECT_FALSE(table[placement.Entry].AlignBottom); // as the others stand
 }
 
-TEST(NearPlacement, A_full_screen_prefers_the_empty_then_the_fewest_then_the_oldest_window) {
+TEST(NearPlacement, A_Full_Screen_Prefers_The_Empty_Then_The_Fewest_Then_The_Oldest_Window) {
     const std::tuple<const char*, std::array<int, 3>, std::array<int, 3>, std::size_t> rows[] = {
         {"the first empty one, not the oldest", {2, 0, 0}, {10, 30, 20}, 1},
         {"the fewest", {3, 2, 4}, {1, 9, 2}, 1},
@@ -141,13 +141,6 @@ TEST(NearPlacement, A_full_screen_prefers_the_empty_then_the_fewest_then_the_old
         EXPECT_EQ(placement.Decision, NearDecision::Queued) << name;
         EXPECT_EQ(placement.Host, host) << name;
     }
-}
-
-TEST(NearPlacement, The_table_grows) {
-    std::vector<NearWindowEntry> table(21);
-    for (int number = 0; number < 22; ++number)
-        EXPECT_EQ(Place(table, number, Cases[0]).Entry, static_cast<std::size_t>(number));
-    EXPECT_EQ(table.size(), 41U);
 }
 
 } // namespace
