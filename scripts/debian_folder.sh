@@ -12,8 +12,10 @@ own_debian() {
   export fresh_root
   chmod 755 "$fresh_root"
   inner= status=0
-  trap '[ -z "$inner" ] || { kill -KILL "$inner"; wait "$inner"; } 2>/dev/null || true
-    rm -rf --one-file-system "$fresh_root"' EXIT
+  # Nor does a second signal stop the clearing away.
+  trap 'trap "" INT TERM HUP
+    [ -z "$inner" ] || { kill -KILL "$inner"; wait "$inner"; } 2>/dev/null || true
+    rm -rf --one-file-system "$fresh_root" "$fresh_root.log"' EXIT
   trap 'exit 130' INT TERM HUP
   unshare --mount --pid --ipc --fork --kill-child --mount-proc "$@" &
   inner=$!
